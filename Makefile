@@ -1,0 +1,52 @@
+# The two commands of the README: `make run` and `make test`.
+BUILD   ?= build
+JOBS    ?= $(shell nproc 2>/dev/null || echo 2)
+SUDO    := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
+
+# Debian packages the build, the tests and the window need.
+PACKAGES := g++ cmake make libgtest-dev \
+            qt6-base-dev qt6-multimedia-dev libqt6multimedia6 \
+            gstreamer1.0-plugins-base gstreamer1.0-plugins-good \
+            xvfb xauth \
+            fonts-liberation fonts-urw-base35 fonts-dejavu-core
+
+.PHONY: all deps configure build test run bench format clean
+
+all: build
+
+deps:
+	@missing=""; for p in $(PACKAGES); do \
+	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q "install ok installed" || missing="$$missing $$p"; \
+	done; \
+	if [ -n "$$missing" ]; then \
+	  echo "Installing:$$missing"; \
+	  $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get update -qq && \
+	  $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $$missing; \
+	fi
+
+$(BUILD)/CMakeCache.txt:
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+
+configure: deps $(BUILD)/CMakeCache.txt
+
+build: configure
+	cmake --build $(BUILD) -j $(JOBS)
+
+test: build
+	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+
+run: build
+	@if [ -x $(BUILD)/bin/holdem ]; then \
+	  if [ -z "$$DISPLAY" ] && [ -z "$$WAYLAND_DISPLAY" ]; then \
+	    echo "No display found. Run the game under a virtual display with: xvfb-run -a $(BUILD)/bin/holdem"; \
+	  else $(BUILD)/bin/holdem; fi; \
+	else $(BUILD)/bin/holdem-sim --players 8 --games 1 --seed 1 --policy rule --log; fi
+
+bench: build
+	$(BUILD)/bin/holdem-sim --bench
+
+format:
+	clang-format -i $$(git ls-files '*.cpp' '*.h')
+
+clean:
+	rm -rf $(BUILD)
