@@ -8,7 +8,7 @@ PACKAGES := g++ cmake make libgtest-dev \
             qt6-base-dev qt6-multimedia-dev libqt6multimedia6 \
             gstreamer1.0-plugins-base gstreamer1.0-plugins-good \
             xvfb xauth \
-            fonts-liberation fonts-urw-base35 fonts-dejavu-core
+            fonts-liberation fonts-urw-base35 fonts-dejavu-core fonts-lobster
 
 .PHONY: all deps configure build test run bench format clean
 
