@@ -78,6 +78,9 @@ public:
     std::array<std::string, 9> SeatHandName{};
     std::array<bool, 9> SeatRaised{};
     std::string AppFolder;
+    // Per-user data folder with a trailing separator, for settings.dft and
+    // stnd.dat where AppFolder is not writable; the window sets it.
+    std::string UserDataFolder;
     int16_t CallChance = 0;
     int16_t RaiseChance = 0;
 
