@@ -67,10 +67,11 @@ const std::string kTwoPairName = "Two Pair";
 // One seat's cards and their ranks, 1..n, always rearranged together.
 struct SeatHand {
     int n = 0;
-    int card[kMaxCards + 1] = {};
-    int rank[kMaxCards + 1] = {};
+    int card[kMaxCards + 1];
+    int rank[kMaxCards + 1];
     int rankCount[kRanks + 1] = {};
     int suitCount[kSuits] = {};
+    unsigned rankMask = 0;  // bit r set when rank r is present
     int fourRank = 0, threeRank = 0, pairRank = 0, secondPairRank = 0;
     int flushSuit = -1;
 };
@@ -110,6 +111,7 @@ void Collect(const Game& g, int s, SeatHand& h) {
         h.rank[k] = RankOf(h.card[k]);
         ++h.rankCount[h.rank[k]];
         ++h.suitCount[SuitOf(h.card[k])];
+        h.rankMask |= 1u << h.rank[k];
     }
     for (int suit = 0; suit < kSuits; ++suit)
         if (h.suitCount[suit] >= 5) h.flushSuit = suit;
@@ -162,21 +164,34 @@ void Arrange(SeatHand& h) {
     }
 }
 
+constexpr unsigned MaskOf(const int (&ranks)[5]) {
+    unsigned mask = 0;
+    for (int r : ranks) mask |= 1u << r;
+    return mask;
+}
+
+constexpr unsigned kStraightMasks[kStraightRows] = {
+    MaskOf(kStraights[0]), MaskOf(kStraights[1]), MaskOf(kStraights[2]), MaskOf(kStraights[3]),
+    MaskOf(kStraights[4]), MaskOf(kStraights[5]), MaskOf(kStraights[6]), MaskOf(kStraights[7]),
+    MaskOf(kStraights[8]), MaskOf(kStraights[9])};
+
 // Row of the highest straight among the ranks present, -1 for none.
-int StraightRow(const bool present[kRanks + 1]) {
-    for (int row = 0; row < kStraightRows; ++row) {
-        bool all = true;
-        for (int k = 0; k < 5 && all; ++k) all = present[kStraights[row][k]];
-        if (all) return row;
-    }
+int StraightRow(unsigned present) {
+    for (int row = 0; row < kStraightRows; ++row)
+        if ((present & kStraightMasks[row]) == kStraightMasks[row]) return row;
     return -1;
 }
 
 int HighCardCode(const SeatHand& h) {
     for (int suit = 0; suit < kSuits; ++suit)
         if (h.suitCount[suit] == 4) return kFourToASuit;
-    // The list is sorted here: positions 1..5 are the five highest ranks.
-    if (h.rank[1] - h.rank[4] > kMaxSpan || h.rank[2] - h.rank[5] > kMaxSpan) return kGappedHighCards;
+    // No rank is paired here, so the five highest ranks are the top five
+    // present, as the sorted list would give them.
+    int top[6] = {};
+    int found = 0;
+    for (int r = kRanks; r >= 1 && found < 5; --r)
+        if (h.rankMask & (1u << r)) top[++found] = r;
+    if (top[1] - top[4] > kMaxSpan || top[2] - top[5] > kMaxSpan) return kGappedHighCards;
     int code = kHighCardBase;
     for (const auto& [high, low] : kHighCardPairs) {
         if (h.rankCount[high] > 0 && h.rankCount[low] > 0) return code;
@@ -189,9 +204,9 @@ int HighCardCode(const SeatHand& h) {
 int Categorise(const SeatHand& h, const std::string*& name) {
     name = nullptr;
     if (h.flushSuit >= 0) {
-        bool suited[kRanks + 1] = {};
+        unsigned suited = 0;
         for (int k = 1; k <= h.n; ++k)
-            if (SuitOf(h.card[k]) == h.flushSuit) suited[h.rank[k]] = true;
+            if (SuitOf(h.card[k]) == h.flushSuit) suited |= 1u << h.rank[k];
         int row = StraightRow(suited);
         if (row >= 0) {
             name = row == 0 ? &kRoyalFlushName : &kStraightFlushName;
@@ -208,9 +223,7 @@ int Categorise(const SeatHand& h, const std::string*& name) {
         name = &kFullHouseName;
         return kFullHouseBase - h.threeRank;
     }
-    bool present[kRanks + 1] = {};
-    for (int r = 1; r <= kRanks; ++r) present[r] = h.rankCount[r] > 0;
-    int row = StraightRow(present);
+    int row = StraightRow(h.rankMask);
     if (row >= 0) {
         name = &kStraightName;
         return kStraightBase + row;
@@ -234,11 +247,14 @@ void RankSeat(Game& g, int s) {
     SeatHand h;
     Collect(g, s, h);
     FindGroups(h);
-    Arrange(h);
+    // Only the river's BestRanks read the arranged list; the categories and
+    // the high-card rule need nothing of it.
+    bool river = g.CardsKnown == kMaxCards;
+    if (river) Arrange(h);
     const std::string* name = nullptr;
     int code = Categorise(h, name);
     if (name != nullptr) g.SeatHandName[s] = *name;
-    if (g.CardsKnown == kMaxCards) {
+    if (river) {
         if (code >= kFirstHighCard && code <= kLastBelowNothing) code = kNothing;
         for (int k = 1; k <= kMaxCards; ++k) g.SeatBestRanks[s][k] = static_cast<int16_t>(h.rank[k]);
     }
