@@ -26,23 +26,24 @@ constexpr int kOtherwise = INT_MIN;
 
 constexpr BlindStep kBlinds8[] = {{6, 100}, {4, 200}, {3, 400}, {2, 600}, {kOtherwise, 1000}};
 
-constexpr BlindStep kBlinds80[] = {{60, 100},  {50, 200},  {40, 400},  {30, 600},         {20, 800},
-                                   {10, 1000}, {5, 2000},  {3, 4000},  {kOtherwise, 8000}};
+constexpr BlindStep kBlinds80[] = {{60, 100},  {50, 200}, {40, 400}, {30, 600},         {20, 800},
+                                   {10, 1000}, {5, 2000}, {3, 4000}, {kOtherwise, 8000}};
 
-constexpr BlindStep kBlinds200[] = {{160, 100}, {120, 200}, {80, 400},  {60, 600},  {50, 800},
-                                    {40, 1000}, {30, 1500}, {20, 2000}, {10, 4000}, {5, 7000},
-                                    {3, 10000}, {kOtherwise, 15000}};
+constexpr BlindStep kBlinds200[] = {{160, 100}, {120, 200}, {80, 400},  {60, 600},
+                                    {50, 800},  {40, 1000}, {30, 1500}, {20, 2000},
+                                    {10, 4000}, {5, 7000},  {3, 10000}, {kOtherwise, 15000}};
 
-constexpr BlindStep kBlinds1000[] = {{900, 100},  {800, 200},   {700, 400},   {600, 600},  {500, 800},
-                                     {400, 1000}, {300, 1500},  {200, 2000},  {100, 4000}, {50, 7000},
-                                     {30, 10000}, {15, 15000},  {7, 20000},   {3, 25000},  {kOtherwise, 35000}};
+constexpr BlindStep kBlinds1000[] = {{900, 100},  {800, 200},  {700, 400},  {600, 600},  {500, 800},
+                                     {400, 1000}, {300, 1500}, {200, 2000}, {100, 4000}, {50, 7000},
+                                     {30, 10000}, {15, 15000}, {7, 20000},  {3, 25000},  {kOtherwise, 35000}};
 
 struct BlindTable {
     int16_t tournamentSize;
     std::span<const BlindStep> steps;
 };
 
-constexpr BlindTable kBlindTables[] = {{8, kBlinds8}, {80, kBlinds80}, {200, kBlinds200}, {1000, kBlinds1000}};
+constexpr BlindTable kBlindTables[] = {
+    {8, kBlinds8}, {80, kBlinds80}, {200, kBlinds200}, {1000, kBlinds1000}};
 
 // The user is roster entry 1 and sits in seat 1.
 constexpr int kUser = 1;
@@ -82,7 +83,8 @@ void Game::CloseHand() {
     for (int s = 1; s <= kSeats; ++s) BreakdownName[s] = RosterName[s];
     PlayOtherTables();
     SetBlinds();
-    view.lblBlind.text = "Blinds: $" + Money(SmallBlind) + " - $" + Money(2 * static_cast<int64_t>(SmallBlind));
+    view.lblBlind.text =
+        "Blinds: $" + Money(SmallBlind) + " - $" + Money(2 * static_cast<int64_t>(SmallBlind));
     CountAndPlace(*this);
     view.mnuSave.enabled = true;
     view.mnuSaveAs.enabled = true;

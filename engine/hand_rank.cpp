@@ -28,13 +28,13 @@ constexpr int kStraights[kStraightRows][5] = {
     {13, 12, 11, 10, 9}, {12, 11, 10, 9, 8}, {11, 10, 9, 8, 7}, {10, 9, 8, 7, 6}, {9, 8, 7, 6, 5},
     {8, 7, 6, 5, 4},     {7, 6, 5, 4, 3},    {6, 5, 4, 3, 2},   {5, 4, 3, 2, 1},  {4, 3, 2, 1, 13}};
 
-constexpr int kRoyalFlush = 1;       // straight flush codes 1..10 by row
-constexpr int kFourBase = 24;        // - FourRank: 11..23
-constexpr int kFullHouseBase = 37;   // - ThreeRank: 24..36
+constexpr int kRoyalFlush = 1;      // straight flush codes 1..10 by row
+constexpr int kFourBase = 24;       // - FourRank: 11..23
+constexpr int kFullHouseBase = 37;  // - ThreeRank: 24..36
 constexpr int kFlush = 37;
-constexpr int kStraightBase = 38;    // + row: 38..47
-constexpr int kThreeBase = 61;       // - ThreeRank: 48..60
-constexpr int kPairBase = 152;       // - PairRank: 139..151
+constexpr int kStraightBase = 38;  // + row: 38..47
+constexpr int kThreeBase = 61;     // - ThreeRank: 48..60
+constexpr int kPairBase = 152;     // - PairRank: 139..151
 constexpr int kFourToASuit = 152;
 constexpr int kGappedHighCards = 153;
 constexpr int kNothing = 199;
@@ -46,15 +46,14 @@ constexpr int kTwoPairRowStart[kRanks + 1] = {0, 0, 138, 136, 133, 129, 124, 118
 
 // High-card codes from 154 on: the first pair of ranks present decides.
 constexpr int kHighCardBase = 154;
-constexpr std::pair<int, int> kHighCardPairs[] = {{kAce, kKing},   {kAce, kQueen},  {kAce, kJack},
-                                                  {kKing, kQueen}, {kKing, kJack},  {kQueen, kJack},
-                                                  {kAce, kTen},    {kKing, kTen},   {kQueen, kTen}};
+constexpr std::pair<int, int> kHighCardPairs[] = {{kAce, kKing},   {kAce, kQueen}, {kAce, kJack},
+                                                  {kKing, kQueen}, {kKing, kJack}, {kQueen, kJack},
+                                                  {kAce, kTen},    {kKing, kTen},  {kQueen, kTen}};
 // Both spans of the five highest ranks must be this close to leave a chance.
 constexpr int kMaxSpan = 4;
 
-const std::string kRankWord[kRanks + 1] = {"",       "Dueces", "Threes", "Fours", "Fives",
-                                          "Sixes",  "Sevens", "Eights", "Nines", "Tens",
-                                          "Jacks",  "Queens", "Kings",  "Aces"};
+const std::string kRankWord[kRanks + 1] = {"",       "Dueces", "Threes", "Fours", "Fives",  "Sixes", "Sevens",
+                                           "Eights", "Nines",  "Tens",   "Jacks", "Queens", "Kings", "Aces"};
 const std::string kRoyalFlushName = "Royal Flush";
 const std::string kStraightFlushName = "Straight Flush";
 const std::string kFlushName = "Flush";
@@ -283,7 +282,8 @@ int Game::CompareShowdown(int a, int b) const {
     if (codeA < kTieOutrightBelow) return 0;
     if (codeA >= kStraightBase && codeA <= kLastStraight) return 0;
     for (int k = 1; k <= kPlayingCards; ++k) {
-        if (SeatBestRanks[a][k] != SeatBestRanks[b][k]) return SeatBestRanks[a][k] > SeatBestRanks[b][k] ? 1 : -1;
+        if (SeatBestRanks[a][k] != SeatBestRanks[b][k])
+            return SeatBestRanks[a][k] > SeatBestRanks[b][k] ? 1 : -1;
     }
     return 0;
 }

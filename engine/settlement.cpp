@@ -137,7 +137,9 @@ bool SplitsInHundreds(int32_t layer, int winners) {
 // The layer to the seats of this place that can claim it: first the odd
 // hundreds one by one in finish order, then equal shares.
 void PayLayer(Game& g, Settlement& w, int place, int layer) {
-    auto isWinner = [&](int j) { return w.FinishPlace[j] == place && CanClaim(g, w, layer, w.FinishOrder[j]); };
+    auto isWinner = [&](int j) {
+        return w.FinishPlace[j] == place && CanClaim(g, w, layer, w.FinishOrder[j]);
+    };
     int n = 0;
     for (int j = place; j <= g.PlayersInHand; ++j) n += isWinner(j) ? 1 : 0;
     int32_t& amount = w.Layer[layer];
@@ -188,8 +190,9 @@ void CheckTotals(Game& g, Settlement& w) {
         w.TotalPaid += w.Paid[s];
     }
     if (w.TotalBet == w.TotalPaid) return;
-    g.platform->MessageBox("Table 1: Total Pot: " + Plain(w.TotalBet) + "   Total Paid: " + Plain(w.TotalPaid), "",
-                           MsgIcon::None, MsgButtons::OK);
+    g.platform->MessageBox(
+        "Table 1: Total Pot: " + Plain(w.TotalBet) + "   Total Paid: " + Plain(w.TotalPaid), "",
+        MsgIcon::None, MsgButtons::OK);
     g.platform->MessageBox("Table Total: " + Plain(w.TableTotal), "", MsgIcon::None, MsgButtons::OK);
 }
 

@@ -87,7 +87,7 @@ TEST_F(RankCases, TwoPairCodesAndOnePairWords) {
     EXPECT_EQ(Code({"Kh", "Ks", "Qd", "Qc", "2h", "7c", "9d"}), 73);
     EXPECT_EQ(Code({"3h", "3s", "2d", "2c", "5h", "7c", "9d"}), 138);
 
-    const char* words[] = {"Dueces", "Threes", "Fours", "Fives", "Sixes", "Sevens", "Eights",
+    const char* words[] = {"Dueces", "Threes", "Fours", "Fives",  "Sixes", "Sevens", "Eights",
                            "Nines",  "Tens",   "Jacks", "Queens", "Kings", "Aces"};
     const char* pairs[][2] = {{"2h", "2s"}, {"3h", "3s"}, {"4h", "4s"}, {"5h", "5s"}, {"6h", "6s"},
                               {"7h", "7s"}, {"8h", "8s"}, {"9h", "9s"}, {"Th", "Ts"}, {"Jh", "Js"},

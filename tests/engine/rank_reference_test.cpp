@@ -43,15 +43,24 @@ Value ValueOfFive(const int (&cards)[5]) {
         if (groups[0].second == 14 && groups[1].second == 5) straightTop = 5;  // the wheel
     }
     Category cat;
-    if (straightTop && flush) cat = StraightFlush;
-    else if (groups[0].first == 4) cat = Quads;
-    else if (groups[0].first == 3 && groups[1].first == 2) cat = FullHouse;
-    else if (flush) cat = Flush;
-    else if (straightTop) cat = Straight;
-    else if (groups[0].first == 3) cat = Trips;
-    else if (groups[0].first == 2 && groups[1].first == 2) cat = TwoPair;
-    else if (groups[0].first == 2) cat = Pair;
-    else cat = HighCard;
+    if (straightTop && flush)
+        cat = StraightFlush;
+    else if (groups[0].first == 4)
+        cat = Quads;
+    else if (groups[0].first == 3 && groups[1].first == 2)
+        cat = FullHouse;
+    else if (flush)
+        cat = Flush;
+    else if (straightTop)
+        cat = Straight;
+    else if (groups[0].first == 3)
+        cat = Trips;
+    else if (groups[0].first == 2 && groups[1].first == 2)
+        cat = TwoPair;
+    else if (groups[0].first == 2)
+        cat = Pair;
+    else
+        cat = HighCard;
 
     Value v = static_cast<Value>(cat) << 20;
     if (straightTop) return v | static_cast<Value>(straightTop) << 16;
@@ -125,8 +134,8 @@ int CompareMany(const std::vector<int>& fullDeck, int seats, int deals, uint32_t
         g.RankHands();
         std::array<Value, 9> value{};
         for (int s = 1; s <= seats; ++s) {
-            value[s] = BestOfSeven({g.SeatCards[s][1], g.SeatCards[s][2], deck[0], deck[1], deck[2], deck[3],
-                                    deck[4]});
+            value[s] = BestOfSeven(
+                {g.SeatCards[s][1], g.SeatCards[s][2], deck[0], deck[1], deck[2], deck[3], deck[4]});
             ++seen.category[CategoryOf(value[s])];
             EXPECT_EQ(CategoryOfCode(g.SeatHandCode[s]), CategoryOf(value[s]))
                 << "deal " << deal << " seat " << s << " code " << g.SeatHandCode[s];
@@ -135,7 +144,8 @@ int CompareMany(const std::vector<int>& fullDeck, int seats, int deals, uint32_t
             for (int b = 1; b <= seats; ++b) {
                 if (a == b) continue;
                 int want = Expected(value[a], value[b]);
-                if (FourAces(value[a]) && FourAces(value[b]) && value[a] != value[b]) ++seen.fourAcesKickersDiffer;
+                if (FourAces(value[a]) && FourAces(value[b]) && value[a] != value[b])
+                    ++seen.fourAcesKickersDiffer;
                 int got = g.CompareShowdown(a, b);
                 if (want != got) {
                     ADD_FAILURE() << "deal " << deal << " seats " << a << "/" << b << " codes "

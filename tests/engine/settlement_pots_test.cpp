@@ -135,11 +135,11 @@ TEST_F(SettlePots, OddHundredsGoOneByOneInFinishOrder) {
         int tied;
         int32_t expected[3];
     } cases[] = {
-        {200, 100, 0, 2, {300, 200, 0}},     // a layer of 500 between two
-        {200, 100, 0, 3, {300, 200, 200}},   // 700 between three
-        {200, 200, 0, 3, {300, 300, 200}},   // 800
-        {300, 100, 0, 3, {400, 300, 300}},   // 1,000
-        {300, 100, 100, 3, {400, 400, 300}}, // 1,100: two odd hundreds
+        {200, 100, 0, 2, {300, 200, 0}},      // a layer of 500 between two
+        {200, 100, 0, 3, {300, 200, 200}},    // 700 between three
+        {200, 200, 0, 3, {300, 300, 200}},    // 800
+        {300, 100, 0, 3, {400, 300, 300}},    // 1,000
+        {300, 100, 100, 3, {400, 400, 300}},  // 1,100: two odd hundreds
     };
     const char* hands[3][2] = {{"Ah", "Kd"}, {"As", "Kc"}, {"Ad", "Kh"}};
     for (const Case& c : cases) {
@@ -212,7 +212,8 @@ TEST_F(SettlePots, EachLayerFallsToTheFirstPlaceThatCanClaimIt) {
 }
 
 TEST_F(SettlePots, AboveTheFourthLevelAllChipsAreOneLayer) {
-    const char* pairs[6][2] = {{"Ah", "Ad"}, {"Kh", "Kd"}, {"Qh", "Qd"}, {"Th", "Td"}, {"8h", "8d"}, {"6h", "6d"}};
+    const char* pairs[6][2] = {{"Ah", "Ad"}, {"Kh", "Kd"}, {"Qh", "Qd"},
+                               {"Th", "Td"}, {"8h", "8d"}, {"6h", "6d"}};
     for (int i = 0; i < 6; ++i) Stake(2 + i, 1000 * (i + 1), pairs[i][0], pairs[i][1]);
     Settle();
     EXPECT_EQ(PaidText(2), "Paid $6,000");
