@@ -75,6 +75,8 @@ class EndOfHand : public ::testing::Test {
 protected:
     void SetUp() override { g.rnd.Script({}); }
     void TearDown() override {
+        std::string why;
+        EXPECT_TRUE(g.state_is_ok(&why)) << why;
         EXPECT_EQ(g.rnd.Remaining(), 0u);
         EXPECT_EQ(g.rnd.Overdrawn(), 0);
     }
