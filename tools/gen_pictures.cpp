@@ -15,7 +15,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QTextDocument>
-
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -42,7 +41,8 @@ QRectF twips(double left, double top, double width, double height) {
 
 QColor mix(const QColor& a, const QColor& b, double t) {
     return QColor::fromRgbF(a.redF() + (b.redF() - a.redF()) * t, a.greenF() + (b.greenF() - a.greenF()) * t,
-                            a.blueF() + (b.blueF() - a.blueF()) * t, a.alphaF() + (b.alphaF() - a.alphaF()) * t);
+                            a.blueF() + (b.blueF() - a.blueF()) * t,
+                            a.alphaF() + (b.alphaF() - a.alphaF()) * t);
 }
 
 // A fixed-seed source for scattered details; mt19937's output is the same everywhere.
@@ -59,7 +59,8 @@ private:
 // A picture of the listed size in pixels, painted in listed units at twice the resolution.
 class Canvas {
 public:
-    Canvas(int width, int height) : image_(width * kScale, height * kScale, QImage::Format_ARGB32_Premultiplied) {
+    Canvas(int width, int height)
+        : image_(width * kScale, height * kScale, QImage::Format_ARGB32_Premultiplied) {
         image_.fill(Qt::transparent);
         image_.setDotsPerMeterX(int(std::lround(kDpi / 0.0254)));
         image_.setDotsPerMeterY(int(std::lround(kDpi / 0.0254)));
@@ -210,18 +211,26 @@ void drawCornerIndex(QPainter& p, Suit suit, int rank) {
 std::vector<QPointF> pipLayout(int count) {
     const double third = 4.0 / 3.0;
     switch (count) {
-        case 2: return {{1, 0}, {1, 4}};
-        case 3: return {{1, 0}, {1, 2}, {1, 4}};
-        case 4: return {{0, 0}, {2, 0}, {0, 4}, {2, 4}};
-        case 5: return {{0, 0}, {2, 0}, {1, 2}, {0, 4}, {2, 4}};
-        case 6: return {{0, 0}, {2, 0}, {0, 2}, {2, 2}, {0, 4}, {2, 4}};
-        case 7: return {{0, 0}, {2, 0}, {1, 1}, {0, 2}, {2, 2}, {0, 4}, {2, 4}};
-        case 8: return {{0, 0}, {2, 0}, {1, 1}, {0, 2}, {2, 2}, {1, 3}, {0, 4}, {2, 4}};
+        case 2:
+            return {{1, 0}, {1, 4}};
+        case 3:
+            return {{1, 0}, {1, 2}, {1, 4}};
+        case 4:
+            return {{0, 0}, {2, 0}, {0, 4}, {2, 4}};
+        case 5:
+            return {{0, 0}, {2, 0}, {1, 2}, {0, 4}, {2, 4}};
+        case 6:
+            return {{0, 0}, {2, 0}, {0, 2}, {2, 2}, {0, 4}, {2, 4}};
+        case 7:
+            return {{0, 0}, {2, 0}, {1, 1}, {0, 2}, {2, 2}, {0, 4}, {2, 4}};
+        case 8:
+            return {{0, 0}, {2, 0}, {1, 1}, {0, 2}, {2, 2}, {1, 3}, {0, 4}, {2, 4}};
         case 9:
-            return {{0, 0}, {2, 0}, {0, third}, {2, third}, {1, 2}, {0, 2 * third}, {2, 2 * third}, {0, 4}, {2, 4}};
+            return {{0, 0},         {2, 0},         {0, third}, {2, third}, {1, 2},
+                    {0, 2 * third}, {2, 2 * third}, {0, 4},     {2, 4}};
         default:
-            return {{0, 0},         {2, 0},         {1, third / 2}, {0, third},        {2, third},
-                    {0, 2 * third}, {2, 2 * third}, {1, 4 - third / 2}, {0, 4}, {2, 4}};
+            return {{0, 0},         {2, 0},         {1, third / 2},     {0, third}, {2, third},
+                    {0, 2 * third}, {2, 2 * third}, {1, 4 - third / 2}, {0, 4},     {2, 4}};
     }
 }
 
@@ -255,8 +264,8 @@ void drawCourt(QPainter& p, Suit suit, int rank) {
         p.translate(middle);
         p.rotate(half * 180.0);
         p.translate(-middle);
-        drawText(p, QRectF(panel.left(), panel.top() + 1.5, panel.width(), 22), Qt::AlignCenter, kRankText[rank],
-                 pixelFont("Liberation Serif", 23, true), ink);
+        drawText(p, QRectF(panel.left(), panel.top() + 1.5, panel.width(), 22), Qt::AlignCenter,
+                 kRankText[rank], pixelFont("Liberation Serif", 23, true), ink);
         drawSuit(p, suit, QPointF(middle.x(), panel.top() + 28.5), 8);
         drawSuit(p, suit, QPointF(panel.left() + 6.5, panel.top() + 7), 5);
         drawSuit(p, suit, QPointF(panel.right() - 6.5, panel.top() + 7), 5);
@@ -426,7 +435,8 @@ void drawRail(QPainter& p) {
     const double seam = 5;
     p.drawRoundedRect(kRailOuter.adjusted(seam, seam, -seam, -seam), kRailRadius - seam, kRailRadius - seam);
     const double inner = kRailWidth - seam - 2;
-    p.drawRoundedRect(kRailOuter.adjusted(inner, inner, -inner, -inner), kRailRadius - inner, kRailRadius - inner);
+    p.drawRoundedRect(kRailOuter.adjusted(inner, inner, -inner, -inner), kRailRadius - inner,
+                      kRailRadius - inner);
     p.restore();
     p.setBrush(Qt::NoBrush);
     p.setPen(QPen(QColor(20, 10, 4), 1.2));
@@ -478,7 +488,8 @@ void drawNamePlates(QPainter& p) {
         fill.setColorAt(0, QColor(0, 0, 0, 150));
         fill.setColorAt(1, QColor(0, 0, 0, 110));
         p.setBrush(fill);
-        p.setPen(QPen(seat == 1 ? QColor(236, 200, 96, 220) : QColor(206, 170, 92, 150), seat == 1 ? 1.2 : 0.9));
+        p.setPen(
+            QPen(seat == 1 ? QColor(236, 200, 96, 220) : QColor(206, 170, 92, 150), seat == 1 ? 1.2 : 0.9));
         p.drawRoundedRect(plate, 6, 6);
     }
 }
@@ -566,7 +577,8 @@ void drawConfetti(QPainter& p, const QRectF& area, const QRectF& keepClear) {
                                            QColor(255, 255, 255), QColor(140, 240, 140)};
     p.setPen(Qt::NoPen);
     for (int k = 0; k < 170; ++k) {
-        const QPointF at(scatter.between(area.left(), area.right()), scatter.between(area.top(), area.bottom()));
+        const QPointF at(scatter.between(area.left(), area.right()),
+                         scatter.between(area.top(), area.bottom()));
         const QColor colour = colours[int(scatter.next() * colours.size()) % colours.size()];
         const double angle = scatter.between(0, 180), size = scatter.between(2.0, 4.5);
         if (keepClear.contains(at)) continue;
@@ -765,8 +777,8 @@ QImage drawTipBulb() {
     p.drawPath(bulb);
     p.setPen(QPen(QColor(190, 130, 20), 0.7));
     p.setBrush(Qt::NoBrush);
-    p.drawPolyline(QPolygonF({QPointF(14, 21.5), QPointF(14.5, 15), QPointF(16, 17), QPointF(17.5, 15),
-                              QPointF(18, 21.5)}));
+    p.drawPolyline(QPolygonF(
+        {QPointF(14, 21.5), QPointF(14.5, 15), QPointF(16, 17), QPointF(17.5, 15), QPointF(18, 21.5)}));
     // The screw base.
     QLinearGradient metal(12, 0, 20, 0);
     metal.setColorAt(0, QColor(120, 120, 126));
@@ -853,9 +865,9 @@ QImage drawPreview(const QImage& table, const std::vector<QImage>& faces, const 
                                           twips(1680, 3600, 510, 240), twips(2880, 1560, 510, 240),
                                           twips(4560, 1560, 510, 240), twips(8160, 1440, 510, 240),
                                           twips(9240, 3360, 510, 240), twips(8280, 5760, 510, 240)};
-    const std::array<QRectF, 8> buttons = {twips(4680, 6720, 510, 510), twips(840, 6600, 510, 510),
-                                           twips(120, 4680, 510, 510),  twips(840, 600, 510, 510),
-                                           twips(4560, 480, 510, 510),  twips(8160, 600, 510, 510),
+    const std::array<QRectF, 8> buttons = {twips(4680, 6720, 510, 510),  twips(840, 6600, 510, 510),
+                                           twips(120, 4680, 510, 510),   twips(840, 600, 510, 510),
+                                           twips(4560, 480, 510, 510),   twips(8160, 600, 510, 510),
                                            twips(10680, 2160, 510, 510), twips(10320, 6480, 510, 510)};
     for (int seat = 1; seat <= 8; ++seat) {
         const CardPlace& c = cards[seat - 1];
@@ -867,8 +879,8 @@ QImage drawPreview(const QImage& table, const std::vector<QImage>& faces, const 
         const SeatLabels& l = kSeatLabels[seat - 1];
         drawText(p, l.name, Qt::AlignCenter, QString("Player Name %1").arg(seat),
                  pixelFont("Liberation Sans", 13, true), seat == 1 ? QColor(255, 255, 0) : Qt::white);
-        drawText(p, l.dollar, Qt::AlignRight | Qt::AlignVCenter, "Chips: $", pixelFont("Liberation Sans", 11, true),
-                 Qt::white);
+        drawText(p, l.dollar, Qt::AlignRight | Qt::AlignVCenter, "Chips: $",
+                 pixelFont("Liberation Sans", 11, true), Qt::white);
         drawText(p, l.bank.adjusted(0, 0, 60, 0), Qt::AlignLeft | Qt::AlignVCenter, "1,250,000",
                  pixelFont("Liberation Sans", 11, true), Qt::white);
     }
@@ -885,8 +897,8 @@ QImage drawPreview(const QImage& table, const std::vector<QImage>& faces, const 
 // ---- Output -------------------------------------------------------------------
 
 bool save(const QImage& image, const QString& folder, const QString& name, bool opaque = false) {
-    const QImage out = opaque ? image.convertToFormat(QImage::Format_RGB888)
-                              : image.convertToFormat(QImage::Format_ARGB32);
+    const QImage out =
+        opaque ? image.convertToFormat(QImage::Format_RGB888) : image.convertToFormat(QImage::Format_ARGB32);
     const QString path = folder + "/" + name;
     if (!out.save(path, "PNG", 9)) {
         std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
@@ -942,7 +954,8 @@ int main(int argc, char** argv) {
     ok &= save(drawLogo(), folder, "logo.png");
     ok &= save(drawIcon(), folder, "icon.png");
     ok &= save(drawTipBulb(), folder, "tip.png");
-    const std::array<QSize, 4> pageSizes = {QSize(401, 478), QSize(397, 425), QSize(406, 365), QSize(402, 407)};
+    const std::array<QSize, 4> pageSizes = {QSize(401, 478), QSize(397, 425), QSize(406, 365),
+                                            QSize(402, 407)};
     const std::array<QString, 4> pageFiles = {"help1.png", "help2.png", "rules1.png", "rules2.png"};
     const std::vector<Page> pages = helpAndRulesPages();
     for (size_t k = 0; k < pages.size(); ++k) {

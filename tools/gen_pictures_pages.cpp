@@ -143,9 +143,10 @@ QString rulesHands() {
         "break a tie.</p><table class=\"hands\" cellspacing=\"0\" cellpadding=\"2\" width=\"100%\">";
     int number = 1;
     for (const Row& row : rows) {
-        html += QString("<tr><td class=\"n\">%1.</td><td><b>%2</b><br/>%3</td><td class=\"note\">%4</td></tr>")
-                    .arg(number++)
-                    .arg(row.name, cards(row.example), row.note);
+        html +=
+            QString("<tr><td class=\"n\">%1.</td><td><b>%2</b><br/>%3</td><td class=\"note\">%4</td></tr>")
+                .arg(number++)
+                .arg(row.name, cards(row.example), row.note);
     }
     html += "</table>";
     html += "<p>Example: you hold " + cards("As Kd") + " and the board is " + cards("Ah 9c 9d 5s 2h") +
