@@ -4,6 +4,7 @@
 //
 // It runs three times for each of up to 125 tables a round, so it allocates
 // nothing: names come from static constants that fit the short-string buffer.
+#include <bit>
 #include <string>
 #include <utility>
 
@@ -116,8 +117,10 @@ void Collect(const Game& g, int s, SeatHand& h) {
         if (h.suitCount[suit] >= 5) h.flushSuit = suit;
 }
 
+// Upward through the ranks present, lowest first.
 void FindGroups(SeatHand& h) {
-    for (int r = 1; r <= kRanks; ++r) {
+    for (unsigned present = h.rankMask; present != 0; present &= present - 1) {
+        int r = std::countr_zero(present);
         if (h.rankCount[r] == 4) {
             h.fourRank = r;
         } else if (h.rankCount[r] == 3) {
