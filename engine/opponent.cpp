@@ -116,14 +116,26 @@ int HoleCountOfHand(const Game& g, int seat, int code, Counted counted) {
     return 2;
 }
 
+// The row of kCodeRows for each code 0..kNoHand, so that rating a seat is a
+// look-up and not a search: the background tables rate thousands of seats a
+// round.
+constexpr auto kRowOfCode = [] {
+    std::array<uint8_t, kNoHand + 1> rows{};
+    std::size_t row = 0;
+    for (int code = 0; code <= kNoHand; ++code) {
+        while (code > kCodeRows[row].last) ++row;
+        rows[code] = static_cast<uint8_t>(row);
+    }
+    return rows;
+}();
+
 Chances ChancesAfterFlop(const Game& g, int seat) {
     int code = g.SeatHandCode[seat];
-    for (const CodeRow& row : kCodeRows) {
-        if (code > row.last) continue;
-        int h = HoleCountOfHand(g, seat, code, row.counted);
-        return h >= 2 ? row.h2 : h == 1 ? row.h1 : row.h0;
-    }
-    return kCodeRows[std::size(kCodeRows) - 1].h2;
+    if (code < 1 || code > kNoHand) code = kNoHand;
+    const CodeRow& row = kCodeRows[kRowOfCode[code]];
+    if (row.counted == Counted::Nothing) return row.h2;
+    int h = HoleCountOfHand(g, seat, code, row.counted);
+    return h >= 2 ? row.h2 : h == 1 ? row.h1 : row.h0;
 }
 
 // ---- The move: what differs between the shown table and a background table --
