@@ -43,7 +43,9 @@ BetAmountOutcome Stay(std::string text, std::string title, MsgIcon icon, bool cl
     return out;
 }
 
-BetAmountOutcome NoBetEntered(bool clearText) { return Stay("No bet entered", kGameTitle, MsgIcon::None, clearText); }
+BetAmountOutcome NoBetEntered(bool clearText) {
+    return Stay("No bet entered", kGameTitle, MsgIcon::None, clearText);
+}
 
 // The checks after the first: whole hundreds, then within the stack.
 BetAmountOutcome CheckAmount(const BetAmountRequest& request, const std::string& text) {

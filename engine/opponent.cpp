@@ -94,7 +94,8 @@ constexpr auto kTwoPairRanks = [] {
     std::array<TwoRanks, 78> ranks{};
     int code = 0;
     for (int high = kAce; high >= 2; --high)
-        for (int low = high - 1; low >= 1; --low) ranks[code++] = {static_cast<int8_t>(high), static_cast<int8_t>(low)};
+        for (int low = high - 1; low >= 1; --low)
+            ranks[code++] = {static_cast<int8_t>(high), static_cast<int8_t>(low)};
     return ranks;
 }();
 
@@ -105,13 +106,16 @@ int HoleCount(const Game& g, int seat, int rank) {
 
 int HoleCountOfHand(const Game& g, int seat, int code, Counted counted) {
     switch (counted) {
-        case Counted::Trips: return HoleCount(g, seat, kAce - (code - kFirstTrips));
-        case Counted::Pair: return HoleCount(g, seat, kAce - (code - kFirstPair));
+        case Counted::Trips:
+            return HoleCount(g, seat, kAce - (code - kFirstTrips));
+        case Counted::Pair:
+            return HoleCount(g, seat, kAce - (code - kFirstPair));
         case Counted::TwoPair: {
             TwoRanks r = kTwoPairRanks[code - kFirstTwoPair];
             return HoleCount(g, seat, r.high) + HoleCount(g, seat, r.low);
         }
-        case Counted::Nothing: break;
+        case Counted::Nothing:
+            break;
     }
     return 2;
 }
@@ -196,7 +200,8 @@ Facing DrawAgainstBet(Game& g, int s, bool background) {
 // Caps the amount at the stack, moves the chips and returns what moved.
 int32_t PayIn(Game& g, int s, double wanted, bool background) {
     double stack = StackOf(g, s, background);
-    int32_t amount = stack < wanted ? static_cast<int32_t>(std::llround(stack)) : static_cast<int32_t>(wanted);
+    int32_t amount =
+        stack < wanted ? static_cast<int32_t>(std::llround(stack)) : static_cast<int32_t>(wanted);
     if (background) {
         g.TableBank[s] -= amount;
     } else {
@@ -293,8 +298,12 @@ void Game::OpponentMoveBeforeFlop(int s, bool background) {
             MarkRaised(*this, s, background);
             break;
         }
-        case Facing::Call: wanted = H - SeatBet[s]; break;
-        case Facing::Fold: FoldUnlessBroke(*this, s, background); break;
+        case Facing::Call:
+            wanted = H - SeatBet[s];
+            break;
+        case Facing::Fold:
+            FoldUnlessBroke(*this, s, background);
+            break;
     }
     int32_t amount = PayIn(*this, s, wanted, background);
     SettleFacingBet(*this, s, amount, background);
@@ -326,8 +335,12 @@ void Game::OpponentMoveAfterFlop(int s, bool background) {
                 MarkRaised(*this, s, background);
                 break;
             }
-            case Facing::Call: wanted = c; break;
-            case Facing::Fold: FoldUnlessBroke(*this, s, background); break;
+            case Facing::Call:
+                wanted = c;
+                break;
+            case Facing::Fold:
+                FoldUnlessBroke(*this, s, background);
+                break;
         }
         int32_t amount = PayIn(*this, s, wanted, background);
         SettleFacingBet(*this, s, amount, background);

@@ -198,16 +198,35 @@ void Game::TimerBetRiver_Timer() { BetTick(*this, kBetRiver); }
 
 void Game::FireTimer(TimerId id) {
     switch (id) {
-        case TimerDealHole: TimerDealHole_Timer(); break;
-        case TimerBetHole: TimerBetHole_Timer(); break;
-        case TimerDealFlop: TimerDealFlop_Timer(); break;
-        case TimerBetFlop: TimerBetFlop_Timer(); break;
-        case TimerDealTurn: TimerDealTurn_Timer(); break;
-        case TimerBetTurn: TimerBetTurn_Timer(); break;
-        case TimerDealRiver: TimerDealRiver_Timer(); break;
-        case TimerBetRiver: TimerBetRiver_Timer(); break;
-        case TimerHandOver: TimerHandOver_Timer(); break;
-        case kTimerCount: break;
+        case TimerDealHole:
+            TimerDealHole_Timer();
+            break;
+        case TimerBetHole:
+            TimerBetHole_Timer();
+            break;
+        case TimerDealFlop:
+            TimerDealFlop_Timer();
+            break;
+        case TimerBetFlop:
+            TimerBetFlop_Timer();
+            break;
+        case TimerDealTurn:
+            TimerDealTurn_Timer();
+            break;
+        case TimerBetTurn:
+            TimerBetTurn_Timer();
+            break;
+        case TimerDealRiver:
+            TimerDealRiver_Timer();
+            break;
+        case TimerBetRiver:
+            TimerBetRiver_Timer();
+            break;
+        case TimerHandOver:
+            TimerHandOver_Timer();
+            break;
+        case kTimerCount:
+            break;
     }
 }
 

@@ -17,10 +17,8 @@ struct StreetTimers {
 
 inline constexpr StreetTimers kStreetTimers[5] = {
     {TimerBetHole, TimerDealFlop},  // unused: Street is never 0 during a hand
-    {TimerBetHole, TimerDealFlop},
-    {TimerBetFlop, TimerDealTurn},
-    {TimerBetTurn, TimerDealRiver},
-    {TimerBetRiver, TimerHandOver},
+    {TimerBetHole, TimerDealFlop},  {TimerBetFlop, TimerDealTurn},
+    {TimerBetTurn, TimerDealRiver}, {TimerBetRiver, TimerHandOver},
 };
 
 inline const StreetTimers& TimersOfStreet(int street) {

@@ -107,8 +107,7 @@ bool BetOrRaise(Game& g) {
         g.HighBetIndex = 1;
         g.HighBetValue = g.SeatBet[1] + g.BetAmount;
         g.RaiseByAmount = g.BetAmount - g.ToCallAmount;
-        g.view.lblBet[1].text =
-            "Raise $" + Money(g.RaiseByAmount) + " to $" + Money(g.HighBetValue) + allIn;
+        g.view.lblBet[1].text = "Raise $" + Money(g.RaiseByAmount) + " to $" + Money(g.HighBetValue) + allIn;
     } else {
         g.view.lblBet[1].text = "Bet $" + Money(g.BetAmount) + allIn;
         g.HighBetValue = g.BetAmount;
@@ -175,10 +174,18 @@ void Game::cmdPlay_Click(int index) {
 
     bool done = true;
     switch (index) {
-        case kCheck: Check(*this); break;
-        case kCall: Call(*this); break;
-        case kBetRaise: done = BetOrRaise(*this); break;
-        case kFold: Fold(*this); break;
+        case kCheck:
+            Check(*this);
+            break;
+        case kCall:
+            Call(*this);
+            break;
+        case kBetRaise:
+            done = BetOrRaise(*this);
+            break;
+        case kFold:
+            Fold(*this);
+            break;
     }
     if (done) ShowPlayButtons(*this, false);
     ShowBettingState(*this);

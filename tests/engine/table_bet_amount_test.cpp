@@ -95,15 +95,16 @@ TEST(BetAmount, ANumberTooLargeFor32BitsIsOverTheStack) {
                     MsgIcon::Information, true);
     // The call on top of the largest 32-bit hundreds must not wrap round.
     const BetAmountRequest rich{2, 2'000'000'000, 2'000'000'000, 2'147'483'000};
-    ExpectStays(BetAmountOk(rich, "2147483600"), "You've only got $2,147,483,000.", "Bet Exceeds Your Chip Stack",
-                MsgIcon::Information, true);
-    ExpectStays(BetAmountOk(kBet, "99999999999999999999999999999950"), "You must bet in multiples of $100.", "",
-                MsgIcon::Information, false);
+    ExpectStays(BetAmountOk(rich, "2147483600"), "You've only got $2,147,483,000.",
+                "Bet Exceeds Your Chip Stack", MsgIcon::Information, true);
+    ExpectStays(BetAmountOk(kBet, "99999999999999999999999999999950"), "You must bet in multiples of $100.",
+                "", MsgIcon::Information, false);
 }
 
 TEST(BetAmount, PastedTextIsRefusedWithoutHarm) {
     for (const char* text : {"-100", "1e3", "1,000", " 100", "abc"})
-        ExpectStays(BetAmountOk(kBet, text), "You must bet in multiples of $100.", "", MsgIcon::Information, false);
+        ExpectStays(BetAmountOk(kBet, text), "You must bet in multiples of $100.", "", MsgIcon::Information,
+                    false);
 }
 
 TEST(BetAmount, EnterDiffersFromOkOnAnEmptyBoxAndOnZero) {

@@ -11,8 +11,8 @@ namespace {
 using test::ScriptedPlatform;
 
 // Ranks 1 (Two) .. 13 (Ace); suit blocks 0..3.
-constexpr int kTwo = 1, kThree = 2, kFour = 3, kFive = 4, kSix = 5, kSeven = 6, kEight = 7, kNine = 8, kTen = 9,
-              kJack = 10, kQueen = 11, kKing = 12, kAce = 13;
+constexpr int kTwo = 1, kThree = 2, kFour = 3, kFive = 4, kSix = 5, kSeven = 6, kEight = 7, kNine = 8,
+              kTen = 9, kJack = 10, kQueen = 11, kKing = 12, kAce = 13;
 int Card(int rank, int suit = 0) { return suit * 13 + rank; }
 
 // Draws that give the size of a raise before the flop: x = Round(9r + 1).
@@ -109,10 +109,9 @@ TEST_F(RateHandTest, BeforeTheFlopTheClassDecides) {
 
 TEST_F(RateHandTest, MadeHandsThatDoNotCountHoleCards) {
     const std::vector<std::pair<int, Pair>> rows = {
-        {1, {100, 75}},  {27, {100, 75}}, {28, {95, 60}},  {31, {95, 60}},  {32, {90, 50}},
-        {36, {90, 50}},  {37, {80, 40}},  {38, {75, 35}},  {41, {75, 35}},  {42, {70, 30}},
-        {47, {70, 30}},  {152, {70, 20}}, {153, {65, 15}}, {154, {50, 10}}, {162, {50, 10}},
-        {163, {10, 0}},  {199, {10, 0}},  {200, {10, 0}},
+        {1, {100, 75}},  {27, {100, 75}}, {28, {95, 60}},  {31, {95, 60}}, {32, {90, 50}}, {36, {90, 50}},
+        {37, {80, 40}},  {38, {75, 35}},  {41, {75, 35}},  {42, {70, 30}}, {47, {70, 30}}, {152, {70, 20}},
+        {153, {65, 15}}, {154, {50, 10}}, {162, {50, 10}}, {163, {10, 0}}, {199, {10, 0}}, {200, {10, 0}},
     };
     for (const auto& [code, chances] : rows) EXPECT_EQ(Rate(code), chances) << code;
     // With both hole cards in the hand it makes no difference either.
@@ -143,12 +142,12 @@ TEST_F(RateHandTest, TwoPairSumsTheHoleCardsOfBothRanks) {
         int code, high, low;
     };
     const Code codes[] = {
-        {61, kAce, kKing},     {72, kAce, kTwo},      {73, kKing, kQueen},  {83, kKing, kTwo},
-        {84, kQueen, kJack},   {93, kQueen, kTwo},    {94, kJack, kTen},    {102, kJack, kTwo},
-        {103, kTen, kNine},    {110, kTen, kTwo},     {111, kNine, kEight}, {117, kNine, kTwo},
-        {118, kEight, kSeven}, {123, kEight, kTwo},   {124, kSeven, kSix},  {128, kSeven, kTwo},
-        {129, kSix, kFive},    {132, kSix, kTwo},     {133, kFive, kFour},  {135, kFive, kTwo},
-        {136, kFour, kThree},  {137, kFour, kTwo},    {138, kThree, kTwo},
+        {61, kAce, kKing},     {72, kAce, kTwo},    {73, kKing, kQueen},  {83, kKing, kTwo},
+        {84, kQueen, kJack},   {93, kQueen, kTwo},  {94, kJack, kTen},    {102, kJack, kTwo},
+        {103, kTen, kNine},    {110, kTen, kTwo},   {111, kNine, kEight}, {117, kNine, kTwo},
+        {118, kEight, kSeven}, {123, kEight, kTwo}, {124, kSeven, kSix},  {128, kSeven, kTwo},
+        {129, kSix, kFive},    {132, kSix, kTwo},   {133, kFive, kFour},  {135, kFive, kTwo},
+        {136, kFour, kThree},  {137, kFour, kTwo},  {138, kThree, kTwo},
     };
     for (const Code& c : codes) {
         SCOPED_TRACE(c.code);

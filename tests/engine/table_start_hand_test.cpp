@@ -208,7 +208,8 @@ TEST_F(StartHandTest, ShuffleAndLayoutForAnAllZeroDrawSequence) {
     // Only the user's cards and the board get faces.
     EXPECT_EQ(g.view.icard[1].picture, 46);
     EXPECT_EQ(g.view.icard[9].picture, 38);
-    for (int i : {2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 15, 16}) EXPECT_EQ(g.view.icard[i].picture, 0) << i;
+    for (int i : {2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 15, 16})
+        EXPECT_EQ(g.view.icard[i].picture, 0) << i;
     for (int i = 17; i <= 21; ++i) EXPECT_EQ(g.view.icard[i].picture, 54 - i) << i;
 }
 

@@ -134,7 +134,8 @@ TEST_F(WholeHandTest, SeededHandsAlwaysReachTheHandOver) {
             if (!g.view.cmdPlay[index].enabled) continue;
             // What the dialog hands back: the call plus whole hundreds.
             if (index == 3)
-                p.betAmounts.push_back(g.HighBetValue - g.SeatBet[1] + 100 * static_cast<int32_t>(1 + user() % 30));
+                p.betAmounts.push_back(g.HighBetValue - g.SeatBet[1] +
+                                       100 * static_cast<int32_t>(1 + user() % 30));
             g.cmdPlay_Click(index);
             p.betAmounts.clear();
             std::string why;

@@ -69,8 +69,9 @@ std::vector<float> ShuffleDrawsFor(const std::vector<int>& front) {
             j = static_cast<int>(at - pool.begin());
         }
         float draw = 0.0f;
-        if (k > 0) draw = j < k ? static_cast<float>(j) / static_cast<float>(k)
-                                : (static_cast<float>(k) - 0.25f) / static_cast<float>(k);
+        if (k > 0)
+            draw = j < k ? static_cast<float>(j) / static_cast<float>(k)
+                         : (static_cast<float>(k) - 0.25f) / static_cast<float>(k);
         if (static_cast<int>(RoundHalfEven(static_cast<float>(k) * draw)) != j)
             throw std::logic_error("no draw for the wanted card");
         draws.push_back(draw);
