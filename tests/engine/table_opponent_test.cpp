@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cctype>
+#include <string>
 #include <vector>
 
 #include "engine/game_state.h"
@@ -179,435 +181,231 @@ TEST_F(RateHandTest, OnePairByItsRankAndItsHoleCards) {
 
 // ---- The move -----------------------------------------------------------------
 
-// A shown table in the middle of a round: all eight seats in with $10,000
-// (also at the background table), and the seat to act is seat 5.
-class MoveTest : public ::testing::Test {
+// Seat 5 moves; seat 3 holds the high bet when there is one. Every other seat
+// is in with $10,000. Draws are percentages 100 * r, x draws as above.
+struct MoveCase {
+    const char* name;
+    int street;  // 1 before the flop, 2 flop, 3 turn, 4 river
+    bool background;
+    int16_t call, raise;
+    int32_t bank, stake, high;  // seat 5's stack and stake, HighBetValue
+    bool raised;                // SeatRaised[5] before the move
+    std::vector<float> draws;
+    const char* words;  // lblBet(5) on the shown table
+    int32_t stakeAfter, highAfter;
+    int highIndexAfter;
+    bool raisedAfter, inHandAfter;
+};
+
+// clang-format off
+const MoveCase kMoves[] = {
+    // name, street, background, call, raise, bank, stake, high, raised, draws,
+    //   words, stake after, high after, high index after, raised after, in hand after
+
+    // Before the flop, facing the large blind of $200.
+    {"matched: no draw", 1, false, 10, 0, 10000, 200, 200, false, {},
+     "", 200, 200, 3, false, true},
+    {"fold", 1, false, 50, 5, 10000, 0, 200, false, {0.51f},
+     "Folded", 0, 200, 3, false, false},
+    {"stay at exactly CallChance, no raise at RaiseChance", 1, false, 50, 5, 10000, 0, 200, false, {0.5f, 0.05f},
+     "Called $200", 200, 200, 3, false, true},
+    {"x 1", 1, false, 50, 5, 10000, 0, 200, false, {0, 0, kX1},
+     "Raised to $400", 400, 400, 5, true, true},
+    {"x 8", 1, false, 50, 5, 10000, 0, 200, false, {0, 0, kX8},
+     "Raised to $1,800", 1800, 1800, 5, true, true},
+    {"x 9 is 10", 1, false, 50, 5, 10000, 0, 200, false, {0, 0, kX9},
+     "Raised to $2,200", 2200, 2200, 5, true, true},
+    {"x 10", 1, false, 50, 5, 10000, 0, 200, false, {0, 0, kX10},
+     "Raised to $2,200", 2200, 2200, 5, true, true},
+    {"2.5 hundreds round to 2", 1, false, 50, 5, 10000, 150, 200, false, {0, 0, kX1},
+     "Raised to $350", 350, 350, 5, true, true},
+    {"one raise a street", 1, false, 50, 5, 10000, 0, 200, true, {0, 0},
+     "Called $200", 200, 200, 3, true, true},
+    {"all-in raise", 1, false, 50, 5, 300, 0, 200, false, {0, 0, kX10},
+     "Raised to $300 All In", 300, 300, 5, true, true},
+    {"raise cut below H: short call", 1, false, 50, 5, 150, 0, 200, false, {0, 0, kX10},
+     "Called $150 All In", 150, 200, 3, true, true},
+    {"no chips cannot fold", 1, false, 10, 0, 0, 0, 200, false, {0.99f},
+     "Checked", 0, 200, 3, false, true},
+    {"background raises without limit", 1, true, 50, 5, 10000, 0, 200, true, {0, 0, kX1},
+     "", 400, 400, 5, true, true},
+    {"background marks no raise", 1, true, 50, 5, 10000, 0, 200, false, {0, 0, kX1},
+     "", 400, 400, 5, false, true},
+    {"background short call", 1, true, 50, 5, 150, 0, 200, false, {0, 0, kX10},
+     "", 150, 200, 3, false, true},
+    {"background fold", 1, true, 10, 0, 10000, 0, 200, false, {0.5f},
+     "", 0, 200, 3, false, false},
+    {"background no chips", 1, true, 10, 0, 0, 0, 200, false, {0.5f},
+     "", 0, 200, 3, false, true},
+
+    // After the flop with nothing to call: only RaiseChance counts.
+    {"monster checks", 2, false, 100, 75, 10000, 0, 0, false, {0.76f},
+     "Checked", 0, 0, 5, false, true},
+    {"later check keeps HighBetIndex", 2, false, 80, 40, 10000, 400, 400, false, {0.99f},
+     "Checked", 400, 400, 3, false, true},
+    {"bet 20%", 2, false, 80, 40, 10000, 0, 0, false, {0.4f, kShare20},
+     "Bet $2,000", 2000, 2000, 5, true, true},
+    {"bet 5%", 2, false, 80, 40, 10000, 0, 0, false, {0, kShare5},
+     "Bet $500", 500, 500, 5, true, true},
+    {"x above 16: the stack", 2, false, 80, 40, 10000, 0, 0, false, {0, kShare100},
+     "Bet $10,000 All In", 10000, 10000, 5, true, true},
+    {"stack rounded up, then capped", 2, false, 80, 40, 10070, 0, 0, false, {0, kShare100},
+     "Bet $10,070 All In", 10070, 10070, 5, true, true},
+    {"stack rounded down", 2, false, 80, 40, 10040, 0, 0, false, {0, kShare100},
+     "Bet $10,000", 10000, 10000, 5, true, true},
+    {"bet over a standing stake", 2, false, 80, 40, 10000, 400, 400, false, {0, kShare20},
+     "Raised to $2,400", 2400, 2400, 5, true, true},
+    {"flop: bet rounding to 0 is a check", 2, false, 80, 40, 500, 0, 0, false, {0, kShare5},
+     "Checked", 0, 0, 5, false, true},
+    {"turn: the drawn bet marks the raise", 3, false, 80, 40, 500, 0, 0, false, {0, kShare5},
+     "Checked", 0, 0, 5, true, true},
+    {"river: the same", 4, false, 80, 40, 500, 0, 0, false, {0, kShare5},
+     "Checked", 0, 0, 5, true, true},
+    {"has bet this street", 3, false, 80, 40, 10000, 0, 0, true, {0},
+     "Checked", 0, 0, 5, true, true},
+    {"no chips", 3, false, 80, 40, 0, 0, 0, false, {0},
+     "Checked", 0, 0, 5, false, true},
+    {"15% of $3,000 in single precision", 2, false, 80, 40, 3000, 0, 0, false, {0, kShare15},
+     "Bet $500", 500, 500, 5, true, true},
+    {"background: the same in double precision", 2, true, 80, 40, 3000, 0, 0, false, {0, kShare15},
+     "", 400, 400, 5, false, true},
+    {"background ignores the raise mark", 3, true, 80, 40, 10000, 0, 0, true, {0, kShare20},
+     "", 2000, 2000, 5, true, true},
+    {"background no chips still draws", 3, true, 80, 40, 0, 0, 0, false, {0},
+     "", 0, 0, 5, false, true},
+    {"background bet rounding to 0", 3, true, 80, 40, 500, 0, 0, false, {0, kShare5},
+     "", 0, 0, 5, false, true},
+
+    // After the flop facing a bet of $1,000.
+    {"fold", 2, false, 80, 40, 10000, 0, 1000, false, {0.81f},
+     "Folded", 0, 1000, 3, false, false},
+    {"call", 2, false, 80, 40, 10000, 0, 1000, false, {0.8f, 0.4f},
+     "Called $1,000", 1000, 1000, 3, false, true},
+    {"raise: call plus 20% of the rest", 2, false, 80, 40, 10000, 0, 1000, false, {0, 0, kShare20},
+     "Raised to $2,800", 2800, 2800, 5, true, true},
+    {"raise rounding back to the call", 3, false, 80, 40, 1050, 0, 1000, false, {0, 0, kShare5},
+     "Called $1,000", 1000, 1000, 3, true, true},
+    {"all in: checked whatever it drew", 4, false, 80, 40, 0, 0, 1000, false, {0, 0, kShare100},
+     "Checked", 0, 1000, 3, true, true},
+    {"one raise a street", 2, false, 80, 40, 10000, 0, 1000, true, {0, 0},
+     "Called $1,000", 1000, 1000, 3, true, true},
+    {"background raises again", 2, true, 80, 40, 10000, 0, 1000, true, {0, 0, kShare20},
+     "", 2800, 2800, 5, true, true},
+};
+// clang-format on
+
+class MoveTest : public ::testing::TestWithParam<MoveCase> {
 protected:
-    void SetUp() override {
-        g.SeatBet = {};
-        g.SeatRaised = {};
-        g.Pot = 0;
-        g.StopHandTimers();
-        g.view.lblBet[5].text.clear();
-        g.view.lblPot.text.clear();
+    // Sets the table for the case; returns the pot before the move.
+    int32_t Arrange(const MoveCase& c) {
         for (int s = 1; s <= 8; ++s) {
             g.SeatInHand[s] = true;
             g.SeatBank[s] = 10000;
             g.TableBank[s] = 10000;
             g.view.icard[s].visible = g.view.icard[s + 8].visible = true;
-            g.view.lblBank[s].text = "10,000";
         }
         g.PlayersInHand = 8;
-    }
-
-    void BeforeFlop(int call, int raise) {
-        g.Street = 1;
-        g.CardsKnown = 2;
-        g.SeatBet[2] = 100;
-        g.SeatBet[3] = 200;
-        g.Pot = 300;
-        g.HighBetIndex = 3;
-        g.HighBetValue = 200;
-        g.CallChance = static_cast<int16_t>(call);
-        g.RaiseChance = static_cast<int16_t>(raise);
-        g.EnableTimer(TimerBetHole);
-    }
-
-    void AfterFlop(int street, int call, int raise) {
-        g.Street = static_cast<int16_t>(street);
-        g.CardsKnown = static_cast<int16_t>(street + 3);
-        g.HighBetIndex = 0;
-        g.HighBetValue = 0;
-        g.CallChance = static_cast<int16_t>(call);
-        g.RaiseChance = static_cast<int16_t>(raise);
-        g.EnableTimer(street == 2 ? TimerBetFlop : street == 3 ? TimerBetTurn : TimerBetRiver);
-    }
-
-    // Seat 3 has bet `amount` into seat 5.
-    void FacingBet(int32_t amount) {
-        g.SeatBet[3] = amount;
-        g.Pot += amount;
-        g.HighBetIndex = 3;
-        g.HighBetValue = amount;
-    }
-
-    void Shown(const std::vector<float>& draws, bool beforeFlop) {
-        g.rnd.Script(draws);
-        if (beforeFlop)
-            g.OpponentMoveBeforeFlop(5, false);
+        g.Street = static_cast<int16_t>(c.street);
+        g.CardsKnown = static_cast<int16_t>(c.street == 1 ? 2 : c.street + 3);
+        g.CallChance = c.call;
+        g.RaiseChance = c.raise;
+        if (c.background)
+            g.TableBank[5] = c.bank;
         else
-            g.OpponentMoveAfterFlop(5, false);
-        ExpectDrawsUsedUp();
+            g.SeatBank[5] = static_cast<float>(c.bank);
+        g.SeatRaised[5] = c.raised;
+        g.SeatBet[5] = c.stake;
+        g.SeatBet[3] = c.high;
+        g.HighBetValue = c.high;
+        g.HighBetIndex = static_cast<int16_t>(c.high > 0 ? 3 : 0);
+        g.Pot = c.stake + c.high;
+        g.view.lblBank[5].text = "before";
+        g.EnableTimer(c.street == 1 ? TimerBetHole : TimerBetFlop);
+        return g.Pot;
     }
-    void Background(const std::vector<float>& draws, bool beforeFlop) {
-        g.rnd.Script(draws);
-        if (beforeFlop)
-            g.OpponentMoveBeforeFlop(5, true);
-        else
-            g.OpponentMoveAfterFlop(5, true);
-        ExpectDrawsUsedUp();
-    }
-    void ExpectDrawsUsedUp() {
-        EXPECT_EQ(g.rnd.Remaining(), 0u);
-        EXPECT_EQ(g.rnd.Overdrawn(), 0);
-    }
-    const std::string& Words() const { return g.view.lblBet[5].text; }
 
     ScriptedPlatform p;
     Game g{p};
 };
 
-TEST_F(MoveTest, BeforeTheFlopASeatThatHasMatchedDoesNothing) {
-    BeforeFlop(10, 0);
-    g.SeatBet[5] = 200;
-    g.view.lblBet[5].text = "Called $200";
-    Shown({}, true);
-    EXPECT_EQ(Words(), "Called $200");
-    EXPECT_EQ(g.SeatBank[5], 10000.0f);
-    EXPECT_TRUE(g.SeatInHand[5]);
-}
+TEST_P(MoveTest, Outcome) {
+    const MoveCase& c = GetParam();
+    int32_t pot = Arrange(c);
+    g.rnd.Script(c.draws);
+    if (c.street == 1)
+        g.OpponentMoveBeforeFlop(5, c.background);
+    else
+        g.OpponentMoveAfterFlop(5, c.background);
 
-TEST_F(MoveTest, BeforeTheFlopAFoldTakesOneDraw) {
-    BeforeFlop(50, 5);
-    Shown({0.51f}, true);
-    EXPECT_EQ(Words(), "Folded");
-    EXPECT_FALSE(g.SeatInHand[5]);
-    EXPECT_EQ(g.PlayersInHand, 7);
-    EXPECT_FALSE(g.view.icard[5].visible);
-    EXPECT_FALSE(g.view.icard[13].visible);
-    EXPECT_TRUE(g.view.icard[6].visible);
-    EXPECT_EQ(g.Pot, 300);
-    EXPECT_EQ(g.RunningTimer(), TimerBetHole);
-}
-
-TEST_F(MoveTest, BeforeTheFlopStayingAtExactlyTheCallChanceAndNotRaisingAtTheRaiseChance) {
-    BeforeFlop(50, 5);
-    Shown({0.5f, 0.05f}, true);
-    EXPECT_EQ(Words(), "Called $200");
-    EXPECT_EQ(g.SeatBank[5], 9800.0f);
-    EXPECT_EQ(g.view.lblBank[5].text, "9,800");
-    EXPECT_EQ(g.SeatBet[5], 200);
-    EXPECT_EQ(g.Pot, 500);
-    EXPECT_EQ(g.view.lblPot.text, "500");
-    EXPECT_EQ(g.HighBetIndex, 3);
-    EXPECT_FALSE(g.SeatRaised[5]);
-}
-
-TEST_F(MoveTest, BeforeTheFlopRaiseSizes) {
-    struct Case {
-        float x;
-        int32_t to;
-        const char* words;
-    };
-    for (const Case& c : {Case{kX1, 400, "Raised to $400"}, Case{kX8, 1800, "Raised to $1,800"},
-                          Case{kX9, 2200, "Raised to $2,200"}, Case{kX10, 2200, "Raised to $2,200"}}) {
-        SCOPED_TRACE(c.to);
-        SetUp();
-        g.SeatRaised[5] = false;
-        g.SeatBet[5] = 0;
-        BeforeFlop(50, 5);
-        Shown({0.0f, 0.0f, c.x}, true);
-        EXPECT_EQ(Words(), c.words);
-        EXPECT_EQ(g.SeatBet[5], c.to);
-        EXPECT_EQ(g.HighBetValue, c.to);
-        EXPECT_EQ(g.HighBetIndex, 5);
-        EXPECT_TRUE(g.SeatRaised[5]);
-        EXPECT_EQ(g.SeatBank[5], 10000.0f - static_cast<float>(c.to));
+    EXPECT_EQ(g.rnd.Remaining(), 0u);
+    EXPECT_EQ(g.rnd.Overdrawn(), 0);
+    int32_t paid = c.stakeAfter - c.stake;
+    EXPECT_EQ(g.SeatBet[5], c.stakeAfter);
+    EXPECT_EQ(g.Pot, pot + paid);
+    EXPECT_EQ(g.HighBetValue, c.highAfter);
+    EXPECT_EQ(g.HighBetIndex, c.highIndexAfter);
+    EXPECT_EQ(g.SeatRaised[5], c.raisedAfter);
+    EXPECT_EQ(g.SeatInHand[5], c.inHandAfter);
+    EXPECT_EQ(g.PlayersInHand, c.inHandAfter ? 8 : 7);
+    EXPECT_EQ(g.view.lblBet[5].text, c.words);
+    EXPECT_EQ(g.RunningTimer(), c.street == 1 ? TimerBetHole : TimerBetFlop);
+    if (c.background) {
+        EXPECT_EQ(g.TableBank[5], c.bank - paid);
+        EXPECT_EQ(g.SeatBank[5], 10000.0f);
+        EXPECT_EQ(g.view.lblBank[5].text, "before");
+        EXPECT_EQ(g.view.lblPot.text, "");
+        EXPECT_EQ(g.view.lblHBI.text, "");
+        EXPECT_TRUE(g.view.icard[5].visible);
+    } else {
+        EXPECT_EQ(g.SeatBank[5], static_cast<float>(c.bank - paid));
+        if (c.draws.empty()) {
+            EXPECT_EQ(g.view.lblBank[5].text, "before");  // no chips, no words
+        } else {
+            EXPECT_EQ(g.view.lblBank[5].text, Money(c.bank - paid));
+            EXPECT_EQ(g.view.lblPot.text, Money(pot + paid));
+        }
+        EXPECT_EQ(g.view.icard[5].visible, c.inHandAfter);
+        EXPECT_EQ(g.view.icard[13].visible, c.inHandAfter);
+        EXPECT_TRUE(g.view.icard[6].visible);
     }
 }
 
-// (x * H + H - SeatBet) / 100 rounds half to even: with $150 in, 2.5 hundreds
-// become 2.
-TEST_F(MoveTest, BeforeTheFlopTheRaiseRoundsToHundredsHalfToEven) {
-    BeforeFlop(50, 5);
-    g.SeatBet[5] = 150;
-    Shown({0.0f, 0.0f, kX1}, true);
-    EXPECT_EQ(g.SeatBet[5], 350);
-    EXPECT_EQ(Words(), "Raised to $350");
-    EXPECT_EQ(g.SeatBank[5], 9800.0f);
-}
+INSTANTIATE_TEST_SUITE_P(Table, MoveTest, ::testing::ValuesIn(kMoves),
+                         [](const ::testing::TestParamInfo<MoveCase>& info) {
+                             std::string name = std::to_string(info.index) + "_";
+                             for (const char* c = info.param.name; *c; ++c)
+                                 name += std::isalnum(static_cast<unsigned char>(*c)) ? *c : '_';
+                             return name;
+                         });
 
-TEST_F(MoveTest, BeforeTheFlopASeatThatHasRaisedMayOnlyCall) {
-    BeforeFlop(50, 5);
-    g.SeatRaised[5] = true;
-    Shown({0.0f, 0.0f}, true);  // b is drawn and has no effect
-    EXPECT_EQ(Words(), "Called $200");
-    EXPECT_EQ(g.HighBetIndex, 3);
-}
-
-TEST_F(MoveTest, BeforeTheFlopAllInRaiseAndShortAllInCall) {
-    BeforeFlop(50, 5);
-    g.SeatBank[5] = 300;
-    Shown({0.0f, 0.0f, kX10}, true);
-    EXPECT_EQ(Words(), "Raised to $300 All In");
-    EXPECT_EQ(g.HighBetValue, 300);
-    EXPECT_EQ(g.HighBetIndex, 5);
-    EXPECT_EQ(g.SeatBank[5], 0.0f);
-
-    SetUp();
-    g.SeatBet[5] = 0;
-    BeforeFlop(50, 5);
-    g.SeatBank[5] = 150;
-    Shown({0.0f, 0.0f, kX10}, true);  // the raise is cut below H: a call
-    EXPECT_EQ(Words(), "Called $150 All In");
-    EXPECT_EQ(g.HighBetValue, 200);
-    EXPECT_EQ(g.HighBetIndex, 3);
-}
-
-TEST_F(MoveTest, BeforeTheFlopASeatWithNoChipsCannotFold) {
-    BeforeFlop(10, 0);
-    g.SeatBank[5] = 0;
-    Shown({0.99f}, true);
-    EXPECT_EQ(Words(), "Checked");
-    EXPECT_TRUE(g.SeatInHand[5]);
-    EXPECT_EQ(g.PlayersInHand, 8);
-}
-
-TEST_F(MoveTest, TheLastFoldStartsTheHandOver) {
-    BeforeFlop(10, 0);
-    for (int s : {2, 3, 4, 6, 7, 8}) g.SeatInHand[s] = false;
-    g.PlayersInHand = 2;
-    Shown({0.5f}, true);
-    EXPECT_EQ(Words(), "Folded");
-    EXPECT_EQ(g.PlayersInHand, 1);
-    EXPECT_EQ(g.RunningTimer(), TimerHandOver);
-
-    SetUp();
-    AfterFlop(3, 10, 0);
-    FacingBet(500);
-    for (int s : {2, 4, 6, 7, 8}) g.SeatInHand[s] = false;
-    g.PlayersInHand = 2;
-    Shown({0.5f}, false);
-    EXPECT_EQ(Words(), "Folded");
-    EXPECT_EQ(g.RunningTimer(), TimerHandOver);
-}
-
-TEST_F(MoveTest, AfterTheFlopWithNothingToCallOnlyTheRaiseChanceCounts) {
-    AfterFlop(2, 100, 75);
-    Shown({0.76f}, false);  // a monster checks one time in four
-    EXPECT_EQ(Words(), "Checked");
-    EXPECT_EQ(g.HighBetIndex, 5);
-    EXPECT_TRUE(g.SeatInHand[5]);
-
-    g.HighBetIndex = 2;
-    Shown({0.99f}, false);
-    EXPECT_EQ(g.HighBetIndex, 2);  // only the first check takes it
-}
-
-TEST_F(MoveTest, AfterTheFlopBetSizes) {
-    struct Case {
-        float share;
-        int32_t bank;
-        const char* words;
-    };
-    for (const Case& c : {Case{kShare20, 10000, "Bet $2,000"}, Case{kShare5, 10000, "Bet $500"},
-                          Case{kShare100, 10000, "Bet $10,000 All In"},
-                          Case{kShare100, 10070, "Bet $10,070 All In"},  // rounds up, the stack caps it
-                          Case{kShare100, 10040, "Bet $10,000"}}) {
-        SCOPED_TRACE(c.words);
-        SetUp();
-        g.SeatBank[5] = static_cast<float>(c.bank);
-        g.SeatRaised[5] = false;
-        AfterFlop(2, 80, 40);
-        Shown({0.4f, c.share}, false);
-        EXPECT_EQ(Words(), c.words);
-        EXPECT_EQ(g.HighBetIndex, 5);
-        EXPECT_EQ(g.HighBetValue, g.SeatBet[5]);
-        EXPECT_TRUE(g.SeatRaised[5]);
+// A fold by the last opponent with the user still in ends the hand at once on
+// the shown table, before the flop and after it; a background fold does not.
+TEST(OpponentFold, TheLastFoldStartsTheHandOverOnTheShownTableOnly) {
+    for (int street : {1, 3}) {
+        for (bool background : {false, true}) {
+            SCOPED_TRACE(street * 10 + background);
+            ScriptedPlatform p;
+            Game g(p);
+            g.SeatInHand[1] = g.SeatInHand[5] = true;
+            g.SeatBank[5] = 4000;
+            g.TableBank[5] = 4000;
+            g.PlayersInHand = 2;
+            g.Street = static_cast<int16_t>(street);
+            g.SeatBet[1] = 600;
+            g.HighBetIndex = 1;
+            g.HighBetValue = 600;
+            g.CallChance = 10;
+            TimerId bet = street == 1 ? TimerBetHole : TimerBetTurn;
+            g.EnableTimer(bet);
+            g.rnd.Script({0.5f});
+            if (street == 1)
+                g.OpponentMoveBeforeFlop(5, background);
+            else
+                g.OpponentMoveAfterFlop(5, background);
+            EXPECT_EQ(g.PlayersInHand, 1);
+            EXPECT_EQ(g.RunningTimer(), background ? bet : TimerHandOver);
+        }
     }
-}
-
-TEST_F(MoveTest, AfterTheFlopABetOverAStandingStakeReadsRaised) {
-    AfterFlop(2, 80, 40);
-    g.SeatBet[3] = g.SeatBet[5] = 400;
-    g.HighBetValue = 400;
-    g.HighBetIndex = 3;
-    Shown({0.0f, kShare20}, false);
-    EXPECT_EQ(Words(), "Raised to $2,400");
-    EXPECT_EQ(g.HighBetValue, 2400);
-}
-
-// 5 percent of $500 is 0.25 hundreds: a check. On the flop the seat keeps its
-// raise; on the turn and the river the drawn bet alone uses it up.
-TEST_F(MoveTest, AfterTheFlopABetThatRoundsToNothingIsACheck) {
-    for (int street : {2, 3, 4}) {
-        SCOPED_TRACE(street);
-        SetUp();
-        g.SeatRaised[5] = false;
-        g.SeatBank[5] = 500;
-        AfterFlop(street, 80, 40);
-        Shown({0.0f, kShare5}, false);
-        EXPECT_EQ(Words(), "Checked");
-        EXPECT_EQ(g.HighBetIndex, 5);
-        EXPECT_EQ(g.SeatBank[5], 500.0f);
-        EXPECT_EQ(g.SeatRaised[5], street != 2);
-    }
-}
-
-TEST_F(MoveTest, AfterTheFlopASeatThatHasBetOrHasNoChipsChecks) {
-    AfterFlop(3, 80, 40);
-    g.SeatRaised[5] = true;
-    Shown({0.0f}, false);
-    EXPECT_EQ(Words(), "Checked");
-
-    SetUp();
-    AfterFlop(3, 80, 40);
-    g.SeatRaised[5] = false;
-    g.SeatBank[5] = 0;
-    Shown({0.0f}, false);
-    EXPECT_EQ(Words(), "Checked");
-    EXPECT_EQ(g.HighBetIndex, 5);
-}
-
-TEST_F(MoveTest, AfterTheFlopFacingABet) {
-    AfterFlop(2, 80, 40);
-    FacingBet(1000);
-    Shown({0.81f}, false);
-    EXPECT_EQ(Words(), "Folded");
-    EXPECT_FALSE(g.view.icard[13].visible);
-
-    SetUp();
-    AfterFlop(2, 80, 40);
-    FacingBet(1000);
-    Shown({0.8f, 0.4f}, false);
-    EXPECT_EQ(Words(), "Called $1,000");
-    EXPECT_EQ(g.SeatBank[5], 9000.0f);
-    EXPECT_EQ(g.HighBetIndex, 3);
-
-    // The call plus 20 percent of what the stack holds after calling.
-    SetUp();
-    AfterFlop(2, 80, 40);
-    FacingBet(1000);
-    Shown({0.0f, 0.0f, kShare20}, false);
-    EXPECT_EQ(Words(), "Raised to $2,800");
-    EXPECT_EQ(g.HighBetValue, 2800);
-    EXPECT_EQ(g.HighBetIndex, 5);
-    EXPECT_TRUE(g.SeatRaised[5]);
-    EXPECT_EQ(g.view.lblPot.text, Money(g.Pot));
-}
-
-TEST_F(MoveTest, AfterTheFlopARaiseThatRoundsBackToTheCallStillCountsAsTheRaise) {
-    AfterFlop(3, 80, 40);
-    FacingBet(1000);
-    g.SeatBank[5] = 1050;
-    Shown({0.0f, 0.0f, kShare5}, false);  // (50 * 5% + 1000) / 100 = 10.025
-    EXPECT_EQ(Words(), "Called $1,000");
-    EXPECT_TRUE(g.SeatRaised[5]);
-    EXPECT_EQ(g.HighBetIndex, 3);
-}
-
-TEST_F(MoveTest, AfterTheFlopAnAllInSeatFacingABetChecksWhateverItDrew) {
-    AfterFlop(4, 80, 40);
-    FacingBet(1000);
-    g.SeatBank[5] = 0;
-    Shown({0.0f, 0.0f, kShare100}, false);
-    EXPECT_EQ(Words(), "Checked");
-    EXPECT_TRUE(g.SeatInHand[5]);
-    EXPECT_EQ(g.SeatBet[5], 0);
-}
-
-TEST_F(MoveTest, AfterTheFlopARaiseIsLimitedToOnePerStreet) {
-    AfterFlop(2, 80, 40);
-    FacingBet(1000);
-    g.SeatRaised[5] = true;
-    Shown({0.0f, 0.0f}, false);
-    EXPECT_EQ(Words(), "Called $1,000");
-}
-
-// ---- The background table -----------------------------------------------------
-
-TEST_F(MoveTest, InTheBackgroundTableBankPaysAndTheViewIsUntouched) {
-    BeforeFlop(50, 5);
-    g.SeatRaised[5] = true;  // no limit on raises in the background
-    Background({0.0f, 0.0f, kX1}, true);
-    EXPECT_EQ(g.TableBank[5], 9600);
-    EXPECT_EQ(g.SeatBank[5], 10000.0f);
-    EXPECT_EQ(g.SeatBet[5], 400);
-    EXPECT_EQ(g.Pot, 700);
-    EXPECT_EQ(g.HighBetValue, 400);
-    EXPECT_EQ(g.HighBetIndex, 5);
-    EXPECT_EQ(Words(), "");
-    EXPECT_EQ(g.view.lblBank[5].text, "10,000");
-    EXPECT_EQ(g.view.lblPot.text, "");
-    EXPECT_EQ(g.view.lblHBI.text, "");
-}
-
-TEST_F(MoveTest, InTheBackgroundAFoldLeavesCardsAndTimersAlone) {
-    BeforeFlop(10, 0);
-    for (int s : {2, 3, 4, 6, 7, 8}) g.SeatInHand[s] = false;
-    g.PlayersInHand = 2;
-    Background({0.5f}, true);
-    EXPECT_FALSE(g.SeatInHand[5]);
-    EXPECT_EQ(g.PlayersInHand, 1);
-    EXPECT_TRUE(g.view.icard[5].visible);
-    EXPECT_EQ(g.RunningTimer(), TimerBetHole);
-    EXPECT_EQ(Words(), "");
-
-    SetUp();
-    BeforeFlop(10, 0);
-    g.TableBank[5] = 0;
-    Background({0.5f}, true);  // no chips: cannot fold
-    EXPECT_TRUE(g.SeatInHand[5]);
-}
-
-TEST_F(MoveTest, InTheBackgroundAShortCallLeavesTheHighBet) {
-    BeforeFlop(50, 5);
-    g.TableBank[5] = 150;
-    Background({0.0f, 0.0f, kX10}, true);
-    EXPECT_EQ(g.TableBank[5], 0);
-    EXPECT_EQ(g.SeatBet[5], 150);
-    EXPECT_EQ(g.HighBetValue, 200);
-    EXPECT_EQ(g.HighBetIndex, 3);
-}
-
-// 15 percent of $3,000 is 4.5 hundreds in double precision, rounded to the
-// even 4; in single precision 0.15f makes it 4.50000048 and so 5.
-TEST_F(MoveTest, TheBetSizeIsDoublePrecisionInTheBackgroundAndSingleOnTheShownTable) {
-    AfterFlop(2, 80, 40);
-    g.TableBank[5] = 3000;
-    Background({0.0f, kShare15}, false);
-    EXPECT_EQ(g.SeatBet[5], 400);
-    EXPECT_EQ(g.TableBank[5], 2600);
-    EXPECT_EQ(g.HighBetValue, 400);
-    EXPECT_EQ(g.HighBetIndex, 5);
-    EXPECT_FALSE(g.SeatRaised[5]);
-
-    SetUp();
-    g.SeatBet[5] = 0;
-    AfterFlop(2, 80, 40);
-    g.SeatBank[5] = 3000;
-    Shown({0.0f, kShare15}, false);
-    EXPECT_EQ(Words(), "Bet $500");
-}
-
-TEST_F(MoveTest, InTheBackgroundTheNothingToCallBranchIgnoresTheRaiseMark) {
-    AfterFlop(3, 80, 40);
-    g.SeatRaised[5] = true;
-    Background({0.0f, kShare20}, false);
-    EXPECT_EQ(g.SeatBet[5], 2000);
-    EXPECT_EQ(g.HighBetIndex, 5);
-
-    // A seat with no chips still makes its draw, bets nothing and checks.
-    SetUp();
-    g.SeatBet[5] = 0;
-    AfterFlop(3, 80, 40);
-    g.SeatRaised[5] = false;
-    g.TableBank[5] = 0;
-    Background({0.0f}, false);
-    EXPECT_EQ(g.HighBetIndex, 5);
-    EXPECT_EQ(g.SeatBet[5], 0);
-    EXPECT_FALSE(g.SeatRaised[5]);  // the turn's rule is the shown table's alone
-}
-
-TEST_F(MoveTest, InTheBackgroundASeatRaisesAgainFacingABet) {
-    AfterFlop(2, 80, 40);
-    FacingBet(1000);
-    g.SeatRaised[5] = true;
-    Background({0.0f, 0.0f, kShare20}, false);
-    EXPECT_EQ(g.SeatBet[5], 2800);
-    EXPECT_EQ(g.HighBetValue, 2800);
-    EXPECT_EQ(g.HighBetIndex, 5);
-    EXPECT_EQ(Words(), "");
 }
 
 }  // namespace
