@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -196,6 +197,8 @@ struct MoveCase {
     int highIndexAfter;
     bool raisedAfter, inHandAfter;
 };
+
+void PrintTo(const MoveCase& c, std::ostream* os) { *os << c.name; }
 
 // clang-format off
 const MoveCase kMoves[] = {
