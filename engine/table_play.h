@@ -2,6 +2,7 @@
 // street and the few view updates that several routines make.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 
 #include "engine/game_state.h"
