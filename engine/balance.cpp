@@ -18,7 +18,8 @@ constexpr int kSettledTable = 5;  // a table of more than this is left alone
 constexpr int kSettledLeast = 4;  // ... and one of more than this, within one of the fullest
 
 // Sounds by the net number of players who joined the user's table.
-constexpr const char* kMovedSound[] = {nullptr, "MOVED", "TWOMOVED", "THREEMOVED", "FOURMOVED", "FIVEMOVED", "SIXMOVED"};
+constexpr const char* kMovedSound[] = {nullptr,     "MOVED",     "TWOMOVED", "THREEMOVED",
+                                       "FOURMOVED", "FIVEMOVED", "SIXMOVED"};
 constexpr int kMovedSounds = 6;
 
 using TableCounts = std::array<int16_t, kTables + 1>;

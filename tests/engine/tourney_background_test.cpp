@@ -17,8 +17,8 @@ using test::ScriptedPlatform;
 // Card of a rank (1 Two .. 13 Ace) in a suit block 0..3.
 constexpr int C(int rank, int suit) { return suit * 13 + rank; }
 
-constexpr float kStay = 0.0f;   // a percentage draw of 0: stays, and raises whenever it may
-constexpr float kNo = 0.99f;    // 99: folds to a bet, never raises, checks with nothing to call
+constexpr float kStay = 0.0f;      // a percentage draw of 0: stays, and raises whenever it may
+constexpr float kNo = 0.99f;       // 99: folds to a bet, never raises, checks with nothing to call
 constexpr float kSmallest = 0.0f;  // a size draw that gives x = 1
 
 // The 52 draws that make the shuffle produce `deck`: card i is found in the
@@ -40,7 +40,8 @@ std::vector<float> ShuffleDraws(const std::array<int, 52>& deck) {
 
 // A deck that deals `hole` (seat -> first, second) and `board` with the button
 // at `button`; every other card in rising order.
-std::array<int, 52> DeckFor(int button, const std::map<int, std::pair<int, int>>& hole, const std::array<int, 5>& board) {
+std::array<int, 52> DeckFor(int button, const std::map<int, std::pair<int, int>>& hole,
+                            const std::array<int, 5>& board) {
     std::array<int, 52> deck{};
     std::array<bool, 53> used{};
     for (const auto& [seat, cards] : hole) {
@@ -108,10 +109,10 @@ TEST(BackgroundHand, FirstHandOfAFullTableButtonOneBlindsTwoThreeSeatFourFirst) 
     Table tb(FullTable(), 7);
     // Seat 4 calls first; if anyone else were first, the stay would be theirs.
     tb.Script(1, {{4, {C(13, 0), C(13, 1)}}, {3, {C(6, 2), C(1, 3)}}},
-              {kStay, kNo,                        // seat 4 calls 200
-               kNo, kNo, kNo, kNo, kNo,           // seats 5, 6, 7, 8, 1 fold
-               kNo,                               // seat 2, the small blind, folds
-               kNo, kNo, kNo, kNo, kNo, kNo});    // three streets: seat 3 then 4 check
+              {kStay, kNo,                      // seat 4 calls 200
+               kNo, kNo, kNo, kNo, kNo,         // seats 5, 6, 7, 8, 1 fold
+               kNo,                             // seat 2, the small blind, folds
+               kNo, kNo, kNo, kNo, kNo, kNo});  // three streets: seat 3 then 4 check
     tb.g.PlayTableHand(7);
     EXPECT_EQ(tb.g.TableButton[7], 1);
     EXPECT_EQ(tb.g.SmallBlindSeat, 2);
@@ -233,8 +234,8 @@ TEST(BackgroundHand, ThreeWayAllInShortestStackWinsTheMainPotOnly) {
     Table tb(Stacks{{1, 100}, {2, 100}, {3, 200}});
     // Button 1 (first hand), blinds 2 and 3 all in; the button calls for its last 100.
     tb.Script(1, {{1, {C(13, 0), C(13, 1)}}, {2, {C(6, 2), C(1, 3)}}, {3, {C(7, 0), C(1, 1)}}},
-              {kStay, kNo,         // seat 1 calls, short
-               kNo, kNo, kNo});    // seat 2, first after the button, checks each street
+              {kStay, kNo,       // seat 1 calls, short
+               kNo, kNo, kNo});  // seat 2, first after the button, checks each street
     tb.g.PlayTableHand(2);
     EXPECT_EQ(tb.Bank(1), 300);
     EXPECT_EQ(tb.Bank(2), 0);
@@ -245,13 +246,17 @@ TEST(BackgroundHand, ThreeWayAllInShortestStackWinsTheMainPotOnly) {
 
 TEST(BackgroundHand, RaisesAreUnlimitedInTheBackground) {
     Table tb(Stacks{{1, 10000}, {2, 10000}, {3, 10000}, {4, 10000}});
-    tb.Script(1, {{4, {C(13, 0), C(13, 1)}}, {3, {C(11, 0), C(11, 1)}}, {1, {C(6, 2), C(1, 3)}}, {2, {C(7, 0), C(1, 1)}}},
-              {kStay, kStay, kSmallest,   // seat 4 raises to 400
-               kNo,                       // seat 1 folds
-               kNo,                       // seat 2 folds
-               kStay, kStay, kSmallest,   // seat 3 raises to 800
-               kStay, kStay, kSmallest,   // seat 4 raises again, to 1,600
-               kStay, kNo,                // seat 3 calls
+    tb.Script(1,
+              {{4, {C(13, 0), C(13, 1)}},
+               {3, {C(11, 0), C(11, 1)}},
+               {1, {C(6, 2), C(1, 3)}},
+               {2, {C(7, 0), C(1, 1)}}},
+              {kStay, kStay, kSmallest,         // seat 4 raises to 400
+               kNo,                             // seat 1 folds
+               kNo,                             // seat 2 folds
+               kStay, kStay, kSmallest,         // seat 3 raises to 800
+               kStay, kStay, kSmallest,         // seat 4 raises again, to 1,600
+               kStay, kNo,                      // seat 3 calls
                kNo, kNo, kNo, kNo, kNo, kNo});  // three streets: 3 then 4 check
     tb.g.PlayTableHand(2);
     EXPECT_EQ(tb.g.SeatTotalBet[4], 1600);

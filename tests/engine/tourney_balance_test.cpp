@@ -111,24 +111,18 @@ TEST_P(BalanceOutcomes, EndsAsTheTableSays) {
 
 // 3,3,3 and 5,4 shuttle for all 100 passes: an odd number would leave the
 // nine players the other way round (4,5 with "MOVED" and 4,5 with silence).
-INSTANTIATE_TEST_SUITE_P(Rows, BalanceOutcomes,
-                         ::testing::Values(Outcome{{8, 8, 8}, {8, 8, 8}, nullptr, false},
-                                           Outcome{{8, 6}, {8, 6}, nullptr, false},
-                                           Outcome{{6, 5, 5}, {6, 5, 5}, nullptr, false},
-                                           Outcome{{7, 4}, {6, 5}, nullptr, false},
-                                           Outcome{{6, 6, 4}, {8, 8, 0}, "TWOMOVED", false},
-                                           Outcome{{8, 8, 3}, {7, 6, 6}, nullptr, false},
-                                           Outcome{{4, 4}, {8, 0}, "FOURMOVED", true},
-                                           Outcome{{1, 7}, {8, 0}, nullptr, true},
-                                           Outcome{{2, 2, 2, 2}, {8, 0, 0, 0}, "SIXMOVED", true},
-                                           Outcome{{3, 3, 3}, {5, 4, 0}, "TWOMOVED", false},
-                                           Outcome{{5, 4}, {5, 4}, nullptr, false},
-                                           Outcome{{4, 5}, {4, 5}, nullptr, false},
-                                           Outcome{{6, 3}, {4, 5}, nullptr, false},
-                                           Outcome{{5, 5}, {5, 5}, nullptr, false},
-                                           Outcome{{6, 5}, {6, 5}, nullptr, false},
-                                           Outcome{{3, 2, 1}, {6, 0, 0}, "THREEMOVED", true},
-                                           Outcome{{7, 1}, {8, 0}, "MOVED", true}));
+INSTANTIATE_TEST_SUITE_P(
+    Rows, BalanceOutcomes,
+    ::testing::Values(
+        Outcome{{8, 8, 8}, {8, 8, 8}, nullptr, false}, Outcome{{8, 6}, {8, 6}, nullptr, false},
+        Outcome{{6, 5, 5}, {6, 5, 5}, nullptr, false}, Outcome{{7, 4}, {6, 5}, nullptr, false},
+        Outcome{{6, 6, 4}, {8, 8, 0}, "TWOMOVED", false}, Outcome{{8, 8, 3}, {7, 6, 6}, nullptr, false},
+        Outcome{{4, 4}, {8, 0}, "FOURMOVED", true}, Outcome{{1, 7}, {8, 0}, nullptr, true},
+        Outcome{{2, 2, 2, 2}, {8, 0, 0, 0}, "SIXMOVED", true},
+        Outcome{{3, 3, 3}, {5, 4, 0}, "TWOMOVED", false}, Outcome{{5, 4}, {5, 4}, nullptr, false},
+        Outcome{{4, 5}, {4, 5}, nullptr, false}, Outcome{{6, 3}, {4, 5}, nullptr, false},
+        Outcome{{5, 5}, {5, 5}, nullptr, false}, Outcome{{6, 5}, {6, 5}, nullptr, false},
+        Outcome{{3, 2, 1}, {6, 0, 0}, "THREEMOVED", true}, Outcome{{7, 1}, {8, 0}, "MOVED", true}));
 
 TEST(Balance, SingleTableGameIsLeftAlone) {
     ScriptedPlatform p;
@@ -278,8 +272,8 @@ TEST(Balance, FinalTableIsAnnouncedAgainOnEveryCall) {
 }
 
 TEST(Balance, AFieldOfEightOrFewerAlwaysEndsAtTableOne) {
-    for (const auto& counts : std::vector<std::vector<int>>{
-             {1, 1, 1, 1, 1, 1, 1, 1}, {4, 1, 1, 1, 1}, {2, 3, 3}, {1, 7}}) {
+    for (const auto& counts :
+         std::vector<std::vector<int>>{{1, 1, 1, 1, 1, 1, 1, 1}, {4, 1, 1, 1, 1}, {2, 3, 3}, {1, 7}}) {
         ScriptedPlatform p;
         Game g(p);
         SeatField(g, counts, 80);

@@ -69,8 +69,8 @@ TEST(BackgroundSettle, KickersAreNeverLookedAt) {
     g.SeatTotalBet[1] = 1000;
     g.SeatTotalBet[2] = 5000;
     g.SeatInHand[1] = g.SeatInHand[2] = true;
-    g.SeatHandCode[1] = g.SeatHandCode[2] = 139;  // pair of Aces each
-    const int16_t a[8] = {0, 13, 13, 12, 7, 4, 3, 1};  // Aces, King, Eight, Five
+    g.SeatHandCode[1] = g.SeatHandCode[2] = 139;        // pair of Aces each
+    const int16_t a[8] = {0, 13, 13, 12, 7, 4, 3, 1};   // Aces, King, Eight, Five
     const int16_t b[8] = {0, 13, 13, 12, 11, 9, 3, 1};  // Aces, King, Queen, Ten: better
     for (int k = 0; k < 8; ++k) {
         g.SeatBestRanks[1][k] = a[k];
@@ -103,7 +103,8 @@ TEST(BackgroundSettle, ThreeTiedSeatsOddHundredsToTheLowestSeats) {
         int32_t stakeEach, folded;
         int32_t first, second, third;
     };
-    for (const Case& c : {Case{200, 100, 300, 200, 200}, Case{200, 200, 300, 300, 200}, Case{300, 100, 400, 300, 300}}) {
+    for (const Case& c :
+         {Case{200, 100, 300, 200, 200}, Case{200, 200, 300, 300, 200}, Case{300, 100, 400, 300, 300}}) {
         Settle st({{2, {c.stakeEach, 0, true, 199}},
                    {4, {c.stakeEach, 0, true, 199}},
                    {5, {c.folded, 0, false, 200}},
@@ -157,7 +158,8 @@ TEST(BackgroundSettle, StacksLeftAtTheTableAreWrittenBack) {
     g.SeatTotalBet[7] = 300;
     g.Pot = 600;
     g.SettleTableHand(9);
-    for (int s = 1; s <= kSeats; ++s) EXPECT_EQ(g.RosterBank[RosterPosition(9, s)], 1000 * s + (s == 4 ? 600 : 0));
+    for (int s = 1; s <= kSeats; ++s)
+        EXPECT_EQ(g.RosterBank[RosterPosition(9, s)], 1000 * s + (s == 4 ? 600 : 0));
     EXPECT_EQ(g.RosterBank[RosterPosition(8, 8)], 0);
     EXPECT_EQ(g.RosterBank[RosterPosition(10, 1)], 0);
 }
