@@ -244,6 +244,23 @@ TEST(BackgroundHand, ThreeWayAllInShortestStackWinsTheMainPotOnly) {
     tb.ExpectAllDrawsUsed();
 }
 
+TEST(BackgroundHand, ShortLargeBlindStillMakesCallersPayTheFullBlind) {
+    Table tb(Stacks{{1, 10000}, {2, 10000}, {3, 150}});
+    tb.Script(1, {{3, {C(13, 0), C(13, 1)}}, {1, {C(6, 2), C(1, 3)}}, {2, {C(7, 0), C(1, 1)}}},
+              {kStay, kNo,                      // the button calls 200
+               kStay, kNo,                      // the small blind makes it 200
+               kNo, kNo, kNo, kNo, kNo, kNo});  // three streets: seats 2 and 1 check
+    tb.g.PlayTableHand(2);
+    EXPECT_EQ(tb.g.SeatTotalBet[1], 200);
+    EXPECT_EQ(tb.g.SeatTotalBet[2], 200);
+    EXPECT_EQ(tb.g.SeatTotalBet[3], 150);
+    // The all-in blind wins what it covered; 50 goes back to each caller.
+    EXPECT_EQ(tb.Bank(3), 450);
+    EXPECT_EQ(tb.Bank(1), 9850);
+    EXPECT_EQ(tb.Bank(2), 9850);
+    tb.ExpectAllDrawsUsed();
+}
+
 TEST(BackgroundHand, RaisesAreUnlimitedInTheBackground) {
     Table tb(Stacks{{1, 10000}, {2, 10000}, {3, 10000}, {4, 10000}});
     tb.Script(1,
