@@ -42,7 +42,7 @@ protected:
     void GameInPlay() {
         p.newGames.push_back({false, "Single Table", "80", "Slow"});
         p.playerNames.push_back("Ann");
-        g.rnd.Script(Draws({0.1f, 0.2f, 0.3f}));
+        g.rnd.Script(LoadDraws({0.1f, 0.2f, 0.3f}));
         g.mnuNew_Click();
         g.SavedGamePath = dir.File("current.sgf");
         g.HandsPlayed = 7;
@@ -54,7 +54,7 @@ protected:
     void ChooseTournament80(const std::string& name) {
         p.newGames.push_back({false, "Tournament", "80", "Fast"});
         p.playerNames.push_back(name);
-        g.rnd.Script(Draws({0.0f, 0.0f, 0.0f}));
+        g.rnd.Script(LoadDraws({0.0f, 0.0f, 0.0f}));
     }
     void ExpectQuestion(std::size_t i, const char* text, const char* title) {
         ASSERT_GT(p.messages.size(), i);

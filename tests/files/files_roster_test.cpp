@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 
 #include "engine/game_state.h"
 #include "files/seq_text.h"
@@ -67,7 +68,7 @@ TEST_F(RosterTest, NewGameDropsTheFirstHeaderItemAndReadsOnlyTheChosenField) {
     g.SeatName[1] = "Alice";
     // Three button draws (only the last counts: 0.5 * 7 = 3.5 rounds to 4, seat
     // 5), then the shuffle of the first hand.
-    g.rnd.Script(Draws({0.99f, 0.0f, 0.5f}));
+    g.rnd.Script(LoadDraws({0.99f, 0.0f, 0.5f}));
     g.LoadRoster();
     ExpectDrawsUsed();
 
@@ -102,7 +103,7 @@ TEST_F(RosterTest, ButtonDrawRoundsHalvesToTheEvenSeatAndCoversBothEnds) {
     for (const Case& c : cases) {
         g.TournamentSize = 8;
         g.SavedGamePath.clear();
-        g.rnd.Script(Draws({0.3f, 0.7f, c.draw}));
+        g.rnd.Script(LoadDraws({0.3f, 0.7f, c.draw}));
         g.LoadRoster();
         ExpectDrawsUsed();
         EXPECT_EQ(g.ButtonSeat, NextSeat(c.drawnSeat)) << "draw " << c.draw;
@@ -113,7 +114,7 @@ TEST_F(RosterTest, SavedGameWithNoHandPlayedDrawsTheButtonAndResetsTheBlind) {
     auto lines = FieldLines(8);
     lines[0] = PlayerLine(1, "Saved Name", 10000, 0, 1);
     g.SeatName[1] = "Last Entered";
-    Open(RosterText(8, 0, 3, 5000, lines), Draws({0.1f, 0.2f, 0x1.6db6dcp-2f}));
+    Open(RosterText(8, 0, 3, 5000, lines), LoadDraws({0.1f, 0.2f, 0x1.6db6dcp-2f}));
     ExpectDrawsUsed();
     EXPECT_TRUE(p.messages.empty());
     EXPECT_EQ(g.SmallBlind, 100);
@@ -128,7 +129,7 @@ TEST_F(RosterTest, PlayersLeftCountsPlacesNotChips) {
     lines[2] = PlayerLine(3, "No Chips Yet In", 0, 0, 3);
     lines[3] = PlayerLine(4, "Out First", 0, 8, 4);
     lines[4] = PlayerLine(5, "Placed With Chips", 10000, 7, 5);
-    Open(RosterText(8, 9, 2, 200, lines), Draws({}));
+    Open(RosterText(8, 9, 2, 200, lines), LoadDraws({}));
     ExpectDrawsUsed();
     EXPECT_EQ(g.PlayersLeft, 6);
     EXPECT_EQ(g.NextFinishPlace, 6);
@@ -139,7 +140,7 @@ TEST_F(RosterTest, PlayersLeftCountsPlacesNotChips) {
 TEST_F(RosterTest, UserFinishPlaceComesFromTheRecordNumberedOne) {
     auto lines = FieldLines(8);
     lines[6] = PlayerLine(7, "Gone", 0, 8, 7);
-    Open(RosterText(8, 4, 2, 100, lines), Draws({}));
+    Open(RosterText(8, 4, 2, 100, lines), LoadDraws({}));
     EXPECT_EQ(g.UserFinishPlace, 0);
     EXPECT_EQ(g.RosterPlace[7], 8);
 }
@@ -170,7 +171,7 @@ TEST_F(RosterTest, FinalTableCaptionFollowsPlacesInTournaments) {
     };
     for (const Case& c : cases) {
         p.messages.clear();
-        Open(RosterText(c.size, 30, 1, 1000, field(c.size, c.in, c.placedWithChips)), Draws({}));
+        Open(RosterText(c.size, 30, 1, 1000, field(c.size, c.in, c.placedWithChips)), LoadDraws({}));
         EXPECT_TRUE(p.messages.empty());
         EXPECT_EQ(g.view.lblGoodLuck.text, c.caption) << "size " << c.size << ", " << c.in.size() << " in";
         EXPECT_EQ(g.NextFinishPlace, static_cast<int>(c.in.size()));
@@ -222,7 +223,7 @@ TEST_F(RosterTest, SavedGameHasTheHeaderThenOneLinePerPositionInOrder) {
     ScriptedPlatform p2;
     Game g2(p2);
     p2.openPaths.push_back(dir.File("mine.sgf"));
-    g2.rnd.Script(Draws({}));
+    g2.rnd.Script(LoadDraws({}));
     g2.mnuOpen_Click();
     ASSERT_TRUE(p2.messages.empty());
     EXPECT_EQ(p2.openDialogs[0].title, "Open Saved Game");
@@ -300,10 +301,90 @@ TEST_F(RosterTest, OpenedGamePlaysOnFromTheSameRosterButtonAndBlinds) {
     EXPECT_EQ(g2.RunningTimer(), TimerDealHole);
 }
 
+// Plays the running hand to its end: timers fire, and the user checks when
+// he can, calls up to a large blind and folds to more.
+void PlayHand(Game& g) {
+    for (int steps = 0; steps < 2000; ++steps) {
+        TimerId running = g.RunningTimer();
+        if (running != kTimerCount) {
+            g.FireTimer(running);
+        } else if (g.view.cmdPlay[1].visible) {
+            bool cheap = g.HighBetValue - g.SeatBet[1] <= 2 * g.SmallBlind;
+            g.cmdPlay_Click(g.view.cmdPlay[1].enabled ? 1 : cheap ? 2 : 4);
+        } else {
+            return;
+        }
+        std::string why;
+        ASSERT_TRUE(g.state_is_ok(&why)) << why;
+    }
+    FAIL() << "the hand did not end";
+}
+
+std::vector<float> SeededDraws(unsigned seed, int count) {
+    std::mt19937 rng(seed);
+    std::vector<float> draws;
+    for (int i = 0; i < count; ++i) draws.push_back(static_cast<float>(rng() >> 8) / 16777216.0f);
+    return draws;
+}
+
+// Some hands of a real game, a save between hands, and the file opened in
+// another game: both play the next hand alike, to the last chip.
+TEST_F(RosterTest, GameSavedAfterSomeHandsPlaysOnAsTheGameItCameFrom) {
+    WriteAll(dir.File("gamedata.dat"), ReadAll(ShippedFile("gamedata.dat")));
+    g.rnd.SeedDeterministic(11);
+    p.newGames.push_back({false, "Single Table", "80", "Fast"});
+    p.playerNames.push_back("Robin");
+    g.mnuNew_Click();
+    for (int hand = 1; hand <= 6 && !g.GameEnded; ++hand) {
+        PlayHand(g);
+        if (hand < 6) g.cmdDeal_Click();
+    }
+    ASSERT_FALSE(g.GameEnded);
+    ASSERT_TRUE(g.view.cmdDeal.visible);
+    ASSERT_TRUE(g.view.mnuSave.enabled);
+    ASSERT_TRUE(g.GameUnsaved);
+    p.savePaths.push_back(dir.File("robin.sgf"));
+    g.mnuSave_Click();
+    ASSERT_TRUE(p.messages.empty());
+    EXPECT_FALSE(g.GameUnsaved);
+
+    ScriptedPlatform p2;
+    Game g2(p2);
+    g2.AppFolder = dir.Folder();
+    p2.openPaths.push_back(dir.File("robin.sgf"));
+    const std::vector<float> draws = SeededDraws(5, 4000);
+    g2.rnd.Script(draws);
+    g2.mnuOpen_Click();
+    ASSERT_TRUE(p2.messages.empty());
+    g.rnd.Script(draws);
+    g.cmdDeal_Click();
+
+    EXPECT_EQ(g2.SeatName[1], "Robin");
+    EXPECT_EQ(g2.HandsPlayed, 7);
+    EXPECT_EQ(g2.HandsPlayed, g.HandsPlayed);
+    EXPECT_EQ(g2.ButtonSeat, g.ButtonSeat);
+    EXPECT_EQ(g2.SmallBlind, g.SmallBlind);
+    EXPECT_EQ(g2.view.lblBlind.text, g.view.lblBlind.text);
+    const auto banksBefore = g.RosterBank;
+    PlayHand(g);
+    PlayHand(g2);
+    EXPECT_NE(g.RosterBank, banksBefore);  // the hand moved chips
+    EXPECT_TRUE(g2.view.cmdDeal.visible || g2.GameEnded);
+    EXPECT_EQ(g2.rnd.Remaining(), g.rnd.Remaining());
+    EXPECT_EQ(g2.rnd.Overdrawn(), 0);
+    for (int pos = 1; pos <= 8; ++pos) {
+        EXPECT_EQ(g2.RosterName[pos], g.RosterName[pos]);
+        EXPECT_EQ(g2.RosterBank[pos], g.RosterBank[pos]) << "position " << pos;
+        EXPECT_EQ(g2.RosterPlace[pos], g.RosterPlace[pos]);
+    }
+    EXPECT_EQ(g2.SmallBlind, g.SmallBlind);
+    EXPECT_EQ(g2.PlayersLeft, g.PlayersLeft);
+}
+
 // ---- The failure table ---------------------------------------------------------
 
 TEST_F(RosterTest, CancelledOpenLeavesTheGameAsItWas) {
-    Open(RosterText(8, 5, 2, 100, FieldLines(8)), Draws({}));
+    Open(RosterText(8, 5, 2, 100, FieldLines(8)), LoadDraws({}));
     g.SavedGamePath = "/somewhere/else.sgf";
     g.DisableTimer(TimerDealHole);
     g.EnableTimer(TimerBetFlop);
@@ -318,7 +399,7 @@ TEST_F(RosterTest, CancelledOpenLeavesTheGameAsItWas) {
 }
 
 TEST_F(RosterTest, FailedOpenInMidHandLeavesAnEmptyTableAndNoHand) {
-    Open(RosterText(8, 5, 2, 100, FieldLines(8)), Draws({}));
+    Open(RosterText(8, 5, 2, 100, FieldLines(8)), LoadDraws({}));
     g.DisableTimer(TimerDealHole);
     g.view.cmdPlay[1].visible = g.view.cmdPlay[4].visible = true;  // the user's turn
     g.view.icard[1].visible = g.view.icard[17].visible = true;
@@ -342,7 +423,7 @@ TEST_F(RosterTest, FailedOpenInMidHandLeavesAnEmptyTableAndNoHand) {
     p.messages.clear();
     WriteAll(dir.File("gamedata.dat"), RosterText(1000, 0, 1, 100, FieldLines(8)));
     p.newGames.push_back({false, "Single Table", "80", "Fast"});
-    g.rnd.Script(Draws({0.1f, 0.1f, 0.1f}));
+    g.rnd.Script(LoadDraws({0.1f, 0.1f, 0.1f}));
     g.mnuNew_Click();
     EXPECT_TRUE(p.messages.empty());  // no game was in play: no question
     EXPECT_EQ(g.RunningTimer(), TimerDealHole);

@@ -86,7 +86,7 @@ inline std::vector<std::string> FieldLines(int size, int bank = 10000) {
 }
 
 // Enough draws for anything LoadRoster and the first deal may take.
-inline std::vector<float> Draws(std::vector<float> first, std::size_t shuffle = 52) {
+inline std::vector<float> LoadDraws(std::vector<float> first, std::size_t shuffle = 52) {
     for (std::size_t i = 0; i < shuffle; ++i) first.push_back(0.5f);
     return first;
 }
