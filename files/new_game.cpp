@@ -33,9 +33,8 @@ void Game::mnuNew_Click() {
         if (platform->MessageBox("Start New Game?", "Start New Game", MsgIcon::Question, MsgButtons::YesNo) !=
             MsgAnswer::Yes)
             return;
-        if (GameUnsaved &&
-            platform->MessageBox("Save Existing Game?", "Save Game", MsgIcon::Question, MsgButtons::YesNo) ==
-                MsgAnswer::Yes)
+        if (GameUnsaved && platform->MessageBox("Save Existing Game?", "Save Game", MsgIcon::Question,
+                                                MsgButtons::YesNo) == MsgAnswer::Yes)
             SaveGame();
     }
     NewGame();
@@ -59,7 +58,8 @@ void Game::NewGame() {
     } catch (const FileError&) {
         // Without its players there is no game: the table stays empty.
         AbandonGame(*this);
-        platform->MessageBox("The players of a new game could not be read from gamedata.dat in\n" + AppFolder +
+        platform->MessageBox("The players of a new game could not be read from gamedata.dat in\n" +
+                                 AppFolder +
                                  "\n\nThe file is missing or damaged. Reinstalling the game restores it.",
                              "Game Not Started", MsgIcon::Exclamation, MsgButtons::OK);
     }

@@ -94,9 +94,9 @@ void OpenFinishedGame(Game& g) {
     } else {
         detail = "No hand can be dealt from it.";
     }
-    g.platform->MessageBox("This saved game is already over. " + detail +
-                               "\n\nChoose New or Open in the File menu to play on.",
-                           "Game Over", MsgIcon::Information, MsgButtons::OK);
+    g.platform->MessageBox(
+        "This saved game is already over. " + detail + "\n\nChoose New or Open in the File menu to play on.",
+        "Game Over", MsgIcon::Information, MsgButtons::OK);
 }
 
 FileDialogRequest DialogRequest(const Game& g, const char* title) { return {title, kFilter, g.AppFolder}; }
@@ -107,7 +107,9 @@ std::string WithExtension(const std::string& path) {
     return p.has_extension() ? path : path + ".sgf";
 }
 
-void TellNotSaved(Game& g) { g.platform->MessageBox(kNotSaved, kFailTitle, MsgIcon::Exclamation, MsgButtons::OK); }
+void TellNotSaved(Game& g) {
+    g.platform->MessageBox(kNotSaved, kFailTitle, MsgIcon::Exclamation, MsgButtons::OK);
+}
 
 }  // namespace
 
@@ -193,7 +195,8 @@ void Game::LoadRoster() {
         view.lblName[s].text = SeatName[s];
         view.lblName[s].visible = view.lblBankDollarSign[s].visible = view.lblBank[s].visible = true;
     }
-    view.lblBlind.text = "Blinds: $" + Money(SmallBlind) + " - $" + Money(2 * static_cast<int64_t>(SmallBlind));
+    view.lblBlind.text =
+        "Blinds: $" + Money(SmallBlind) + " - $" + Money(2 * static_cast<int64_t>(SmallBlind));
     view.lblGoodLuck.text = TournamentSize > 8 && PlayersLeft < 9 ? "Final Table!" : "Good Luck!";
     view.lblGoodLuck.visible = true;
 

@@ -50,6 +50,8 @@ SeqReader::SeqReader(const std::string& path) : path_(path) {
     if (!in) throw FileError(path + ": cannot be opened");
     text_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
     if (in.bad()) throw FileError(path + ": cannot be read");
+    // A file saved again by a text editor may carry a UTF-8 mark in front.
+    if (text_.rfind("\xEF\xBB\xBF", 0) == 0) pos_ = 3;
 }
 
 SeqReader SeqReader::FromText(std::string text) {
@@ -122,9 +124,13 @@ int64_t SeqReader::ReadWhole(int64_t lo, int64_t hi, const char* kind) {
     return value;
 }
 
-int16_t SeqReader::ReadInt16() { return static_cast<int16_t>(ReadWhole(INT16_MIN, INT16_MAX, "a 16-bit item")); }
+int16_t SeqReader::ReadInt16() {
+    return static_cast<int16_t>(ReadWhole(INT16_MIN, INT16_MAX, "a 16-bit item"));
+}
 
-int32_t SeqReader::ReadInt32() { return static_cast<int32_t>(ReadWhole(INT32_MIN, INT32_MAX, "a 32-bit item")); }
+int32_t SeqReader::ReadInt32() {
+    return static_cast<int32_t>(ReadWhole(INT32_MIN, INT32_MAX, "a 32-bit item"));
+}
 
 bool SeqReader::ReadBool() {
     Item item = NextItem();
@@ -208,8 +214,10 @@ void SeqWriter::Commit() {
 std::string QuoteSafe(const std::string& text) {
     std::string out = text;
     for (char& c : out) {
-        if (c == '"') c = '\'';
-        else if (IsLineEnd(c)) c = ' ';
+        if (c == '"')
+            c = '\'';
+        else if (IsLineEnd(c))
+            c = ' ';
     }
     return out;
 }

@@ -102,7 +102,8 @@ void Game::WriteSettings() {
     try {
         if (!userFirst && !UserDataFolder.empty()) {
             std::error_code ec;
-            std::filesystem::create_directories(std::u8string(UserDataFolder.begin(), UserDataFolder.end()), ec);
+            std::filesystem::create_directories(std::u8string(UserDataFolder.begin(), UserDataFolder.end()),
+                                                ec);
         }
         WriteSettingsTo(*this, second);
     } catch (const std::exception&) {

@@ -24,7 +24,8 @@ bool WriteStandings(Game& g) {
     if (userPath.empty() || userPath == g.StandingsPath) return false;
     try {
         std::error_code ec;
-        std::filesystem::create_directories(std::u8string(g.UserDataFolder.begin(), g.UserDataFolder.end()), ec);
+        std::filesystem::create_directories(std::u8string(g.UserDataFolder.begin(), g.UserDataFolder.end()),
+                                            ec);
         WriteRosterFile(g, userPath);
         g.StandingsPath = userPath;
         return true;

@@ -14,8 +14,9 @@ namespace {
 // One seeded change to a valid file.
 std::string Mutate(std::string text, std::mt19937& rng) {
     auto pick = [&](std::size_t n) { return n == 0 ? 0 : static_cast<std::size_t>(rng() % n); };
-    static const char* const kNumbers[] = {"99999999999", "2147483648", "-2147483648", "32767", "-32768", "0",
-                                           "65536",       "-1",         "1000",        "8",     "9",      "16777217"};
+    static const char* const kNumbers[] = {"99999999999", "2147483648", "-2147483648", "32767",
+                                           "-32768",      "0",          "65536",       "-1",
+                                           "1000",        "8",          "9",           "16777217"};
     switch (rng() % 9) {
         case 0:  // truncate
             text.resize(pick(text.size() + 1));
@@ -52,8 +53,10 @@ std::string Mutate(std::string text, std::mt19937& rng) {
             std::size_t end = text.find('\n', at + 1);
             if (end == std::string::npos) break;
             std::string line = text.substr(at + 1, end - at);
-            if (rng() % 2) text.erase(at + 1, end - at);
-            else text.insert(at + 1, line);
+            if (rng() % 2)
+                text.erase(at + 1, end - at);
+            else
+                text.insert(at + 1, line);
             break;
         }
         case 7:  // a comma inserted
@@ -103,7 +106,8 @@ TEST(FileCorruptionTest, DamagedFilesLoadOrAreReportedWithNoHandDealt) {
         // systems flush it at every step.
         const bool newGame = i % 16 == 7;
         const std::string folder = newGame ? dir.File("m" + std::to_string(i)) + "/" : dir.Folder();
-        const std::string path = newGame ? folder + "gamedata.dat" : dir.File("d" + std::to_string(i) + ".sgf");
+        const std::string path =
+            newGame ? folder + "gamedata.dat" : dir.File("d" + std::to_string(i) + ".sgf");
         if (newGame) std::filesystem::create_directory(folder);
         g.AppFolder = folder;
         if (newGame) {

@@ -97,8 +97,8 @@ TEST_F(RosterTest, ButtonDrawRoundsHalvesToTheEvenSeatAndCoversBothEnds) {
         int drawnSeat;
     };
     // x * 7 lands exactly on 0.5, 1.5, 2.5 for these floats.
-    const Case cases[] = {{0.0f, 1},        {0x1.24924ap-4f, 1}, {0x1.b6db6ep-3f, 3},
-                          {0x1.6db6dcp-2f, 3}, {0.5f, 5},        {0.99999994f, 8}};
+    const Case cases[] = {{0.0f, 1},           {0x1.24924ap-4f, 1}, {0x1.b6db6ep-3f, 3},
+                          {0x1.6db6dcp-2f, 3}, {0.5f, 5},           {0.99999994f, 8}};
     WriteAll(dir.File("gamedata.dat"), RosterText(8, 0, 0, 0, FieldLines(8)));
     for (const Case& c : cases) {
         g.TournamentSize = 8;
@@ -152,8 +152,10 @@ TEST_F(RosterTest, FinalTableCaptionFollowsPlacesInTournaments) {
         int place = size;
         for (int p = 1; p <= size; ++p) {
             bool isIn = std::find(in.begin(), in.end(), p) != in.end();
-            bool chips = std::find(placedWithChips.begin(), placedWithChips.end(), p) != placedWithChips.end();
-            lines.push_back(PlayerLine(p, "P" + std::to_string(p), isIn || chips ? 10000 : 0, isIn ? 0 : place--, p));
+            bool chips =
+                std::find(placedWithChips.begin(), placedWithChips.end(), p) != placedWithChips.end();
+            lines.push_back(
+                PlayerLine(p, "P" + std::to_string(p), isIn || chips ? 10000 : 0, isIn ? 0 : place--, p));
         }
         return lines;
     };
@@ -433,14 +435,14 @@ TEST_F(RosterTest, FailedOpenInMidHandLeavesAnEmptyTableAndNoHand) {
 TEST_F(RosterTest, UnreadableFilesAreReportedAndDealNothing) {
     const std::string good = RosterText(8, 5, 2, 100, FieldLines(8));
     const std::string cases[] = {
-        "",                                             // empty
-        good.substr(0, good.size() / 2),                // ends early
-        RosterText(50, 5, 2, 100, FieldLines(8)),       // no such size
-        RosterText(8, 5, 9, 100, FieldLines(8)),        // button off the table
-        RosterText(8, 5, 2, 0, FieldLines(8)),          // no blind
-        RosterText(8, -1, 2, 100, FieldLines(8)),       // hands below zero
-        RosterText(8, 5, 2, 100, FieldLines(8, -100)),  // chips below zero
-        RosterText(8, 5, 2, 100, FieldLines(8, 3000000)),  // more chips than a Single holds exactly
+        "",                                                         // empty
+        good.substr(0, good.size() / 2),                            // ends early
+        RosterText(50, 5, 2, 100, FieldLines(8)),                   // no such size
+        RosterText(8, 5, 9, 100, FieldLines(8)),                    // button off the table
+        RosterText(8, 5, 2, 0, FieldLines(8)),                      // no blind
+        RosterText(8, -1, 2, 100, FieldLines(8)),                   // hands below zero
+        RosterText(8, 5, 2, 100, FieldLines(8, -100)),              // chips below zero
+        RosterText(8, 5, 2, 100, FieldLines(8, 3000000)),           // more chips than a Single holds exactly
         RosterText(8, 5, 2, 100, {PlayerLine(1, "A", 100, 9, 1)}),  // place beyond the field
         "8,5,2,100\r\n1,\"Unclosed,10000,0,1\r\n",
         "8,5,2,100\r\n1,\"A\",ten,0,1\r\n",
@@ -502,10 +504,13 @@ TEST_F(RosterTest, FailedWriteKeepsGameUnsavedAndThePreviousFile) {
 // ---- Files that hold a finished game -------------------------------------------
 
 TEST_F(RosterTest, FinishedGameOpensToItsFinalStateAndDealsNothing) {
-    auto line = [](int s, int bank, int place) { return PlayerLine(s, "P" + std::to_string(s), bank, place, s); };
+    auto line = [](int s, int bank, int place) {
+        return PlayerLine(s, "P" + std::to_string(s), bank, place, s);
+    };
     // The user went out third; seats 4 and 5 play on.
-    const std::vector<std::string> userOut = {line(1, 0, 3),     line(2, 0, 8),     line(3, 0, 7), line(4, 40000, 0),
-                                              line(5, 40000, 0), line(6, 0, 6),     line(7, 0, 5), line(8, 0, 4)};
+    const std::vector<std::string> userOut = {line(1, 0, 3),     line(2, 0, 8),     line(3, 0, 7),
+                                              line(4, 40000, 0), line(5, 40000, 0), line(6, 0, 6),
+                                              line(7, 0, 5),     line(8, 0, 4)};
     // The user holds every chip.
     const std::vector<std::string> userWon = {line(1, 80000, 0), line(2, 0, 8), line(3, 0, 7), line(4, 0, 6),
                                               line(5, 0, 5),     line(6, 0, 4), line(7, 0, 3), line(8, 0, 2)};

@@ -10,7 +10,8 @@ namespace holdem::test {
 namespace {
 
 TEST(SeqTextTest, ItemsByPositionAcrossCommasLineEndsAndBlanks) {
-    auto in = SeqReader::FromText("  12,\"a, b\" ,#TRUE#\r\n-7,  unquoted text  ,#false#\n\n\"\",2147483647\r\n");
+    auto in =
+        SeqReader::FromText("  12,\"a, b\" ,#TRUE#\r\n-7,  unquoted text  ,#false#\n\n\"\",2147483647\r\n");
     EXPECT_EQ(in.ReadInt16(), 12);
     EXPECT_EQ(in.ReadString(), "a, b");
     EXPECT_TRUE(in.ReadBool());
@@ -28,20 +29,44 @@ TEST(SeqTextTest, EveryBadItemIsAFileError) {
         const char* text;
         int kind;  // 0 int16, 1 int32, 2 bool, 3 string
     } cases[] = {
-        {"32768", 0},  {"-32769", 0},        {"2147483648", 1},   {"-2147483649", 1}, {"99999999999999999999999", 1},
-        {"12x", 0},    {"1.5", 0},           {"1e3", 1},          {"", 0},            {",", 0},
-        {"\"12\"", 0}, {"--1", 0},           {"+-1", 0},          {"-", 1},           {"TRUE", 2},
-        {"1", 2},      {"\"#TRUE#\"", 2},    {"\"open", 3},       {"\"open\r\n\"", 3}, {"\"a\"b,", 3},
+        {"32768", 0},
+        {"-32769", 0},
+        {"2147483648", 1},
+        {"-2147483649", 1},
+        {"99999999999999999999999", 1},
+        {"12x", 0},
+        {"1.5", 0},
+        {"1e3", 1},
+        {"", 0},
+        {",", 0},
+        {"\"12\"", 0},
+        {"--1", 0},
+        {"+-1", 0},
+        {"-", 1},
+        {"TRUE", 2},
+        {"1", 2},
+        {"\"#TRUE#\"", 2},
+        {"\"open", 3},
+        {"\"open\r\n\"", 3},
+        {"\"a\"b,", 3},
         {"   \r\n ", 3},
     };
     for (const auto& c : cases) {
         auto in = SeqReader::FromText(c.text);
         SCOPED_TRACE(c.text);
         switch (c.kind) {
-            case 0: EXPECT_THROW(in.ReadInt16(), FileError); break;
-            case 1: EXPECT_THROW(in.ReadInt32(), FileError); break;
-            case 2: EXPECT_THROW(in.ReadBool(), FileError); break;
-            default: EXPECT_THROW(in.ReadString(), FileError); break;
+            case 0:
+                EXPECT_THROW(in.ReadInt16(), FileError);
+                break;
+            case 1:
+                EXPECT_THROW(in.ReadInt32(), FileError);
+                break;
+            case 2:
+                EXPECT_THROW(in.ReadBool(), FileError);
+                break;
+            default:
+                EXPECT_THROW(in.ReadString(), FileError);
+                break;
         }
     }
     EXPECT_THROW(SeqReader("/no/such/folder/file.dat"), FileError);

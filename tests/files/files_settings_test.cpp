@@ -14,9 +14,12 @@ struct Intervals {
 
 Intervals IntervalsOf(const Game& g) {
     const auto& t = g.view.timer;
-    for (TimerId id : {TimerDealFlop, TimerDealTurn, TimerDealRiver}) EXPECT_EQ(t[id].interval, t[TimerDealFlop].interval);
-    for (TimerId id : {TimerBetFlop, TimerBetTurn, TimerBetRiver}) EXPECT_EQ(t[id].interval, t[TimerBetHole].interval);
-    return {t[TimerDealHole].interval, t[TimerDealFlop].interval, t[TimerBetHole].interval, t[TimerHandOver].interval};
+    for (TimerId id : {TimerDealFlop, TimerDealTurn, TimerDealRiver})
+        EXPECT_EQ(t[id].interval, t[TimerDealFlop].interval);
+    for (TimerId id : {TimerBetFlop, TimerBetTurn, TimerBetRiver})
+        EXPECT_EQ(t[id].interval, t[TimerBetHole].interval);
+    return {t[TimerDealHole].interval, t[TimerDealFlop].interval, t[TimerBetHole].interval,
+            t[TimerHandOver].interval};
 }
 
 int CheckedSpeed(const Game& g) {
@@ -72,6 +75,7 @@ TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaults) {
         {"1,#FALSE#", 2, true, true},
         {"fast,#TRUE#,#TRUE#\r\n", 2, true, true},
         {"1,-1,0\r\n", 2, true, true},
+        {"\xEF\xBB\xBF" "3,#TRUE#,#FALSE#\r\n", 3, true, false},
     };
     for (const Case& c : cases) {
         ScriptedPlatform p2;

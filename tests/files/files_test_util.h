@@ -22,8 +22,10 @@ public:
         static int serial = 0;
         auto base = std::filesystem::temp_directory_path();
         const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        std::string name = "holdem_files_" + std::string(info ? info->name() : "x") + "_" +
-                           std::to_string(std::chrono::steady_clock::now().time_since_epoch().count() % 1000000007) + "_" + std::to_string(++serial);
+        std::string name =
+            "holdem_files_" + std::string(info ? info->name() : "x") + "_" +
+            std::to_string(std::chrono::steady_clock::now().time_since_epoch().count() % 1000000007) + "_" +
+            std::to_string(++serial);
         path_ = base / name;
         std::filesystem::remove_all(path_);
         std::filesystem::create_directories(path_);
@@ -65,16 +67,17 @@ inline void FillRoster(Game& g, int size, int32_t bank = 10000) {
 }
 
 // The text of a roster file, built line by line.
-inline std::string RosterText(int size, int hands, int button, int blind, const std::vector<std::string>& players) {
-    std::string text = std::to_string(size) + "," + std::to_string(hands) + "," + std::to_string(button) + "," +
-                       std::to_string(blind) + "\r\n";
+inline std::string RosterText(int size, int hands, int button, int blind,
+                              const std::vector<std::string>& players) {
+    std::string text = std::to_string(size) + "," + std::to_string(hands) + "," + std::to_string(button) +
+                       "," + std::to_string(blind) + "\r\n";
     for (const auto& line : players) text += line + "\r\n";
     return text;
 }
 
 inline std::string PlayerLine(int tag, const std::string& name, int bank, int place, int number) {
-    return std::to_string(tag) + ",\"" + name + "\"," + std::to_string(bank) + "," + std::to_string(place) + "," +
-           std::to_string(number);
+    return std::to_string(tag) + ",\"" + name + "\"," + std::to_string(bank) + "," + std::to_string(place) +
+           "," + std::to_string(number);
 }
 
 // A field of `size` players, all in with 10,000; player lines numbered by position.
