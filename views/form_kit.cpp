@@ -1,7 +1,7 @@
 #include "views/form_kit.h"
 
 #include <QEvent>
-#include <QFileInfo>
+#include <QFontMetrics>
 #include <QImageReader>
 #include <QMouseEvent>
 #include <QPainter>
@@ -58,6 +58,15 @@ void SetBackground(QWidget* widget, const QColor& colour) {
     palette.setColor(QPalette::Window, colour);
     widget->setPalette(palette);
     widget->setAutoFillBackground(true);
+}
+
+void FitCentred(QLabel* label, const QString& widest) {
+    const QString& text = widest.isEmpty() ? label->text() : widest;
+    int need = QFontMetrics(label->font()).horizontalAdvance(text) + 2 * label->margin() + 2;
+    int extra = need - label->width();
+    if (extra <= 0) return;
+    QRect box = label->geometry();
+    label->setGeometry(box.adjusted(-(extra + 1) / 2, 0, extra / 2 + 1, 0));
 }
 
 QPixmap LoadPicture(const std::string& path, QSize size) {

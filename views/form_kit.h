@@ -29,6 +29,10 @@ QFont SansFont(double points, bool bold = false);
 void SetTextColour(QWidget* widget, const QColor& colour);
 void SetBackground(QWidget* widget, const QColor& colour);
 
+// Widens a centred label about its centre when the given text (its own by
+// default) is wider than the box: the faces that stand in run a little wider.
+void FitCentred(QLabel* label, const QString& widest = QString());
+
 // The picture at path scaled smoothly to size; a plain framed placeholder
 // when the file is missing or unreadable.
 QPixmap LoadPicture(const std::string& path, QSize size);

@@ -89,13 +89,9 @@ void frmCasinoFloor::BuildRoom() {
         TwipsBox table = TableBox(t);
         sTable[t] = new ColourShape(true, this);
         sTable[t]->setGeometry(BoxRect(table));
-        // The number is centred on its box and widened only as far as three
-        // digits need.
-        QRect box = TwipsRect(table.left + 465, table.top + 165, 165, 240);
-        lblTable[t] = MakeText(this, QString(), box, true, Qt::AlignHCenter);
-        int width = QFontMetrics(lblTable[t]->font()).horizontalAdvance("125") + 2;
-        if (width > box.width()) lblTable[t]->setGeometry(box.adjusted(-(width - box.width() + 1) / 2, 0,
-                                                                      (width - box.width() + 1) / 2, 0));
+        lblTable[t] = MakeText(this, QString(), TwipsRect(table.left + 465, table.top + 165, 165, 240), true,
+                               Qt::AlignHCenter);
+        FitCentred(lblTable[t], "125");
     }
     for (int s = 1; s <= kRoomSeats; ++s) {
         sSeat[s] = new ColourShape(false, this);

@@ -49,9 +49,11 @@ frmRankings::frmRankings(const std::string& standingsPath, QWidget* parent) : QD
     Label2->setAlignment(Qt::AlignCenter);
     Label2->setFont(SerifFont(12, true));
     SetTextColour(Label2, kText);
+    FitCentred(Label2);
 
     BuildRows();
     lblPage = MakeLabel(this, TwipsRect(840, 7320, 525, 195), Qt::AlignHCenter);
+    FitCentred(lblPage, "Page 40");
     lblPrevious = MakeButtonLabel(this, "[PREVIOUS]", TwipsRect(2160, 7320, 945, 195));
     lblNext = MakeButtonLabel(this, "[NEXT]", TwipsRect(3240, 7320, 555, 195));
     lblClose = MakeButtonLabel(this, "[CLOSE]", TwipsRect(4440, 7320, 615, 195));
