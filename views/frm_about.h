@@ -4,11 +4,11 @@
 #include <QDialog>
 #include <string>
 
+#include "views/form_kit.h"
+
 class QLabel;
 
 namespace holdem {
-
-class ClickLabel;
 
 class frmAbout : public QDialog {
     Q_OBJECT

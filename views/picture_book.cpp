@@ -19,7 +19,7 @@ PictureBook::PictureBook(const std::string& appFolder, const PictureBookLayout& 
 
     display_ = new QLabel(this);
     display_->setGeometry(TwipsRect(layout.pageLeft, layout.pageTop, layout.pageWidth, layout.pageHeight));
-    display_->setAlignment(Qt::AlignCenter);
+    display_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     display_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     SetBackground(display_, Qt::white);
     QSize inside = display_->contentsRect().size();
