@@ -114,8 +114,8 @@ void sSeat_Click(Floor& f, int index) {
     f.sSeatColour[index] = floor_colour::kSelected;
 
     int p = FirstPosition(f) + index;
-    f.lblSeatData.text = "#" + std::to_string(f.copy.Number[p]) + " " + f.copy.Name[p] + "   $" +
-                         Money(f.copy.Bank[p]);
+    f.lblSeatData.text =
+        "#" + std::to_string(f.copy.Number[p]) + " " + f.copy.Name[p] + "   $" + Money(f.copy.Bank[p]);
     TwipsBox table = TableBox(f.SelectedTable);
     f.lblSeatDataTop = table.top - kSeatDataAbove;
     f.lblSeatDataLeft = table.left + kSeatDataIn;

@@ -35,14 +35,16 @@ frmAbout::frmAbout(const std::string& appFolder, QWidget* parent) : QDialog(pare
     Picture1->setGeometry(Px(240), Px(240), kLogoPixels, kLogoPixels);
     Picture1->setPixmap(LoadPicture(appFolder + "pictures/logo.png", QSize(kLogoPixels, kLogoPixels)));
 
-    lblTitle = MakeText(this, "CORVANE TEXAS HOLD'EM", TwipsRect(1560, 270, 3600, 300), SansFont(11, true), kText);
+    lblTitle =
+        MakeText(this, "CORVANE TEXAS HOLD'EM", TwipsRect(1560, 270, 3600, 300), SansFont(11, true), kText);
     lblTitle->setWordWrap(false);
     lblTitle->adjustSize();
     // The trade mark sits small and raised just after the title.
     Label2 = MakeText(this, "TM", QRect(lblTitle->geometry().right() + 2, lblTitle->y() - 1, 20, 12),
                       SansFont(6, true), kText);
 
-    lblVersion = MakeText(this, "Version 1.0 for Windows", TwipsRect(1560, 600, 3900, 255), SansFont(8), kText);
+    lblVersion =
+        MakeText(this, "Version 1.0 for Windows", TwipsRect(1560, 600, 3900, 255), SansFont(8), kText);
     Label1 = MakeText(this,
                       "Note: For entertainment purposes only. The software maker accepts no responsibility "
                       "for information or strategy presented in this program.",

@@ -53,7 +53,8 @@ frmCasinoFloor::frmCasinoFloor(const std::string& standingsPath, QWidget* parent
     setFixedSize(Px(7410), Px(6885));
     SetBackground(this, ToQColor(floor_colour::kGround));
 
-    lblPlayers = MakeText(this, "Players Remaining: ", TwipsRect(2400, 240, 2580, 240), true, Qt::AlignHCenter);
+    lblPlayers =
+        MakeText(this, "Players Remaining: ", TwipsRect(2400, 240, 2580, 240), true, Qt::AlignHCenter);
     lblRoom = MakeText(this, "Room: ", TwipsRect(3240, 720, 870, 240), true, Qt::AlignHCenter);
     BuildRoom();
     BuildLegend();
@@ -110,9 +111,9 @@ void frmCasinoFloor::BuildLegend() {
         swatch->setGeometry(TwipsRect(kLegendLeft, row.top, kSwatch, kSwatch));
         swatch->setColour(ToQColor(row.colour));
         sSeatLegend[row.swatch] = swatch;
-        Legend[row.legend] = MakeText(this, QString(),
-                                      TwipsRect(kLegendTextLeft, row.top - kLegendTextRise, 2400, 240), false,
-                                      Qt::AlignLeft);
+        Legend[row.legend] =
+            MakeText(this, QString(), TwipsRect(kLegendTextLeft, row.top - kLegendTextRise, 2400, 240), false,
+                     Qt::AlignLeft);
     }
 }
 

@@ -84,9 +84,9 @@ void frmRankings::BuildRows() {
 void frmRankings::Draw() {
     for (int row = 1; row <= kUserRow; ++row) {
         const QColor& colour = s_.yellow[row] ? kUserText : kText;
-        for (auto [label, element] : {std::pair{lblRank[row], &s_.lblRank[row]},
-                                      std::pair{lblName[row], &s_.lblName[row]},
-                                      std::pair{lblBank[row], &s_.lblBank[row]}}) {
+        for (auto [label, element] :
+             {std::pair{lblRank[row], &s_.lblRank[row]}, std::pair{lblName[row], &s_.lblName[row]},
+              std::pair{lblBank[row], &s_.lblBank[row]}}) {
             Apply(label, *element);
             SetTextColour(label, colour);
         }

@@ -24,7 +24,8 @@ frmTip::frmTip(Game& game, QWidget* parent) : QDialog(parent), game_(game) {
 
     picSymbol = new QLabel(Picture1);
     picSymbol->setGeometry(Px(120), Px(120), kSymbolPixels, kSymbolPixels);
-    picSymbol->setPixmap(LoadPicture(game.AppFolder + "pictures/tip.png", QSize(kSymbolPixels, kSymbolPixels)));
+    picSymbol->setPixmap(
+        LoadPicture(game.AppFolder + "pictures/tip.png", QSize(kSymbolPixels, kSymbolPixels)));
 
     Label1 = new QLabel("Did you know...", Picture1);
     Label1->setGeometry(TwipsRect(840, 240, 2760, 360));

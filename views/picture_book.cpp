@@ -48,8 +48,10 @@ void PictureBook::ShowPage(int page) {
     cmdNext->setEnabled(page == 1);
     display_->setPixmap(pages_[page - 1]);
     // The button just pressed has gone dark; keep the keyboard on the book.
-    if (page == 2) cmdPrevious->setFocus();
-    else cmdNext->setFocus();
+    if (page == 2)
+        cmdPrevious->setFocus();
+    else
+        cmdNext->setFocus();
 }
 
 }  // namespace holdem

@@ -14,7 +14,7 @@ namespace holdem {
 
 struct PictureBookLayout {
     const char* title;
-    int width, height;                           // client area, twips
+    int width, height;                             // client area, twips
     int pageLeft, pageTop, pageWidth, pageHeight;  // the page on show, twips
     int buttonTop, previousLeft, nextLeft, closeLeft;
     const char* firstPicture;  // under AppFolder

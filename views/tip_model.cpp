@@ -9,7 +9,8 @@ namespace holdem {
 
 void LoadTipForm(TipBox& box, Game& game) {
     game.rnd.Randomize();
-    if (!LoadTips(box, game.rnd, game.AppFolder + kTipsFileName)) box.lblTipText = MissingTipsMessage(kTipsFileName);
+    if (!LoadTips(box, game.rnd, game.AppFolder + kTipsFileName))
+        box.lblTipText = MissingTipsMessage(kTipsFileName);
 }
 
 bool LoadTips(TipBox& box, Random& rnd, const std::string& path) {

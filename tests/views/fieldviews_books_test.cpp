@@ -127,9 +127,10 @@ private slots:
         QVERIFY(about.Label2->font().pixelSize() < about.lblTitle->font().pixelSize());
         QVERIFY(about.Label2->x() >= about.lblTitle->geometry().right());
         QCOMPARE(about.lblVersion->text(), QString("Version 1.0 for Windows"));
-        QCOMPARE(about.Label1->text(),
-                 QString("Note: For entertainment purposes only. The software maker accepts no responsibility "
-                         "for information or strategy presented in this program."));
+        QCOMPARE(
+            about.Label1->text(),
+            QString("Note: For entertainment purposes only. The software maker accepts no responsibility "
+                    "for information or strategy presented in this program."));
         QVERIFY(!about.lblDescription->text().isEmpty());
         QVERIFY(!about.lblDisclaimer->text().isEmpty());
         QCOMPARE(about.Picture1->pixmap().toImage().pixelColor(36, 36), QColor(0, 128, 0));

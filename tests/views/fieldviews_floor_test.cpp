@@ -70,7 +70,7 @@ private slots:
     void theOneLeaderShowsBlue() {
         auto field = EvenField(200);
         field[36].bank = 25000;  // position 37, room 1
-        field[5].bank = 0;        // position 6 is out
+        field[5].bank = 0;       // position 6 is out
         field[5].place = 200;
         Floor f;
         OpenFloor(f, WriteStnd(dir_, field));
@@ -251,8 +251,8 @@ private slots:
         QCOMPARE(form.lblSeatData->text(), QString("#66 Maximiliano Fitzgerald   $10,000"));
         QCOMPARE(form.sSeat[66]->colour(), QColor(255, 255, 255));
         QCOMPARE(form.lblSeatData->geometry().topLeft(), QPoint(Px(1680 + 25), Px(3960 - 250)));
-        QVERIFY(form.lblSeatData->width() > QFontMetrics(form.lblSeatData->font()).horizontalAdvance(
-                                                 form.lblSeatData->text()));
+        QVERIFY(form.lblSeatData->width() >
+                QFontMetrics(form.lblSeatData->font()).horizontalAdvance(form.lblSeatData->text()));
         QVERIFY(holdem::test::SaveScreenshot(form, "fieldviews_floor_click"));
 
         // An empty seat takes no click: the label still names the last one.

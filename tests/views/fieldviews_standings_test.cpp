@@ -38,8 +38,8 @@ private slots:
     void sortsByChipsThenPlaceWithTheSelectionPasses() {
         // File order: equal banks of 3,000 at positions 1 (the user), 3 and 5.
         std::vector<StndRecord> field = {
-            {11, "You", 3000, 0, 1}, {12, "A", 5000, 0, 2}, {13, "B", 3000, 0, 3},  {14, "C", 0, 9, 4},
-            {15, "D", 3000, 0, 5},   {16, "E", 0, 10, 6},   {17, "F", 8000, 0, 7},  {18, "G", 0, 8, 8},
+            {11, "You", 3000, 0, 1}, {12, "A", 5000, 0, 2}, {13, "B", 3000, 0, 3}, {14, "C", 0, 9, 4},
+            {15, "D", 3000, 0, 5},   {16, "E", 0, 10, 6},   {17, "F", 8000, 0, 7}, {18, "G", 0, 8, 8},
             {19, "H", 1000, 0, 9},   {20, "I", 0, 7, 10},
         };
         Standings s;

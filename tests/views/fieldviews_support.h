@@ -24,8 +24,8 @@ struct StndRecord {
 
 // Writes a header "count,HandsPlayed,ButtonSeat,SmallBlind" and one line per
 // record, each ending in CR LF, and returns the path.
-inline std::string WriteStnd(const QTemporaryDir& dir, const std::vector<StndRecord>& records,
-                             int count = -1, const std::string& name = "stnd.dat") {
+inline std::string WriteStnd(const QTemporaryDir& dir, const std::vector<StndRecord>& records, int count = -1,
+                             const std::string& name = "stnd.dat") {
     std::string path = dir.filePath(QString::fromStdString(name)).toStdString();
     std::ofstream out(path, std::ios::binary);
     out << (count < 0 ? static_cast<int>(records.size()) : count) << ",12,3,200\r\n";
@@ -43,7 +43,9 @@ inline std::vector<StndRecord> EvenField(int n) {
     return field;
 }
 
-inline QColor TextColour(const QWidget* w) { return w->palette().color(QPalette::Active, QPalette::WindowText); }
+inline QColor TextColour(const QWidget* w) {
+    return w->palette().color(QPalette::Active, QPalette::WindowText);
+}
 
 // Saves the form as a picture beside the test programs, to be looked at.
 inline bool SaveScreenshot(QWidget& form, const QString& name) {
