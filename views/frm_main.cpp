@@ -346,7 +346,7 @@ void frmMain::BuildTimers() {
     for (int id = 0; id < kTimerCount; ++id) {
         timers[id] = new QTimer(this);
         timers[id]->setTimerType(Qt::PreciseTimer);
-        connect(timers[id], &QTimer::timeout, this, [this, id] { OnTick(static_cast<TimerId>(id)); });
+        connect(timers[id], &QTimer::timeout, this, [this, id] { TimerTick(static_cast<TimerId>(id)); });
     }
 }
 
@@ -440,7 +440,7 @@ void frmMain::Call(const std::function<void()>& routine) {
     Redraw();
 }
 
-void frmMain::OnTick(TimerId id) {
+void frmMain::TimerTick(TimerId id) {
     if (busy_ || quitting_) return;
     if (!game.view.timer[id].enabled) {
         timers[id]->stop();

@@ -47,6 +47,9 @@ public:
     // Stands still for just over 1,000 ms with the table painted: no click,
     // key or tick is handled meanwhile.
     void PauseTable();
+    // What a hand timer's tick does: one call into the game, skipped while
+    // another call runs.
+    void TimerTick(TimerId id);
     // What ends the program; tests replace it.
     std::function<void()> onQuit;
 
@@ -99,7 +102,6 @@ private:
 
     // Runs one call into the game, then redraws; never re-enters.
     void Call(const std::function<void()>& routine);
-    void OnTick(TimerId id);
     void SyncTimers();
     bool ExitQuestionNeeded(bool closeBox) const;
     bool Exit(bool closeBox);

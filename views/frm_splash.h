@@ -21,13 +21,13 @@ public:
     kit::PictureBox *Image1, *Image2, *Image3, *Image4;
     QTimer* timerSplash;
     int ticks = 0;
+    void timerSplash_Timer();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    void timerSplash_Timer();
     void CloseSplash();
     bool closed_ = false;
 };
