@@ -80,6 +80,9 @@ public:
 
     std::array<QTimer*, kTimerCount> timers{};
 
+    // The card pictures the window draws with (0 the back, 1..52 the faces).
+    const kit::CardPictures& Cards() const { return *cards_; }
+
     // True while a call into the game runs; ticks and clicks wait it out.
     bool Busy() const { return busy_; }
 
