@@ -10,7 +10,7 @@ PACKAGES := g++ cmake make libgtest-dev \
             xvfb xauth \
             fonts-liberation fonts-urw-base35 fonts-dejavu-core fonts-lobster
 
-.PHONY: all deps configure build test run bench format clean
+.PHONY: all deps configure build test run bench format clean pictures sounds
 
 all: build
 
@@ -44,6 +44,15 @@ run: build
 
 bench: build
 	$(BUILD)/bin/holdem-sim --bench
+
+# Redraw the committed pictures and sounds; a normal build never does. The sound
+# script installs sox and espeak-ng itself: they are tools of the generator only.
+pictures: configure
+	cmake --build $(BUILD) --target gen_pictures -j $(JOBS)
+	$(BUILD)/bin/gen_pictures
+
+sounds:
+	tools/gen_sounds.sh
 
 format:
 	clang-format -i $$(git ls-files '*.cpp' '*.h')

@@ -147,6 +147,9 @@ public:
 
     // ---- End of a shown hand (settlement.cpp, end_of_hand.cpp) ------------
     void TimerHandOver_Timer();
+    // The second half of TimerHandOver: the other tables, the blinds, the
+    // count of the players and the decision how the game goes on.
+    void CloseHand();
     void SetBlinds();
     void EndGameForUser();
     void DeclareTournamentWon();
