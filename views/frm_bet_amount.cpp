@@ -71,7 +71,8 @@ frmBetAmount::frmBetAmount(const BetAmountRequest& request, Platform& messages, 
 }
 
 bool frmBetAmount::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != txtBetAmount || event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+    if (watched != txtBetAmount || event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
     auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
         Apply(BetAmountEnter(request_, txtBetAmount->text().toStdString()));
@@ -88,7 +89,8 @@ bool frmBetAmount::eventFilter(QObject* watched, QEvent* event) {
 
 void frmBetAmount::Apply(const BetAmountOutcome& outcome) {
     if (outcome.message)
-        messages_.MessageBox(outcome.message->text, outcome.message->title, outcome.message->icon, MsgButtons::OK);
+        messages_.MessageBox(outcome.message->text, outcome.message->title, outcome.message->icon,
+                             MsgButtons::OK);
     if (outcome.clearText) txtBetAmount->clear();
     if (outcome.close) {
         BetAmount = outcome.betAmount;

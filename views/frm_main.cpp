@@ -38,37 +38,96 @@ struct SeatLayout {
 // Seat 1 bottom middle, then clockwise.
 const SeatLayout kSeatLayout[9] = {
     {},
-    {{4920, 6960, 2175, 255}, {5040, 7215, 1095, 255}, {6120, 7215, 330, 195}, {5280, 5520, 1065, 1440},
-     {5520, 5520, 1065, 1440}, {5580, 5280, 765, 240}, {4680, 5640, 510, 240}, {4680, 6720, 510, 510},
-     {5715, 6000, 615, 195}, Qt::AlignHCenter},
-    {{1080, 6720, 2175, 255}, {1320, 6990, 1095, 255}, {2400, 6990, 330, 195}, {1440, 5280, 1065, 1440},
-     {1680, 5280, 1065, 1440}, {1740, 5040, 765, 240}, {2880, 5640, 510, 240}, {840, 6600, 510, 510},
-     {1875, 5760, 615, 195}, Qt::AlignHCenter},
-    {{-120, 4200, 2175, 255}, {120, 4470, 1095, 255}, {1200, 4470, 330, 195}, {240, 2760, 1095, 1455},
-     {480, 2760, 1095, 1455}, {1680, 2880, 750, 240}, {1680, 3600, 510, 240}, {120, 4680, 510, 510},
-     {675, 3240, 615, 195}, Qt::AlignLeft},
-    {{960, 360, 2175, 255}, {1200, 630, 1095, 255}, {2280, 630, 330, 195}, {1440, 840, 1095, 1455},
-     {1680, 840, 1095, 1455}, {2400, 2340, 750, 240}, {2880, 1560, 510, 240}, {840, 600, 510, 510},
-     {1875, 1320, 615, 195}, Qt::AlignLeft},
-    {{5160, 360, 1455, 255}, {5040, 630, 1095, 255}, {6120, 630, 330, 195}, {5160, 840, 1095, 1455},
-     {5400, 840, 1095, 1455}, {5475, 2340, 750, 240}, {4560, 1560, 510, 240}, {4560, 480, 510, 510},
-     {5595, 1320, 615, 195}, Qt::AlignHCenter},
-    {{8280, 360, 2175, 255}, {8520, 630, 1095, 255}, {9600, 630, 330, 195}, {8760, 840, 1065, 1440},
-     {9000, 840, 1065, 1440}, {8655, 2340, 750, 240}, {8160, 1440, 510, 240}, {8160, 600, 510, 510},
-     {9195, 1320, 615, 195}, Qt::AlignRight},
-    {{9480, 4200, 1575, 255}, {9240, 4470, 1095, 255}, {10320, 4470, 330, 195}, {9840, 2760, 1065, 1440},
-     {10080, 2760, 1065, 1440}, {9015, 2880, 750, 240}, {9240, 3360, 510, 240}, {10680, 2160, 510, 510},
-     {10080, 3240, 615, 195}, Qt::AlignRight},
-    {{8520, 6720, 2175, 255}, {8640, 6990, 1095, 255}, {9720, 6990, 330, 195}, {8880, 5280, 1065, 1440},
-     {9120, 5280, 1065, 1440}, {9240, 5040, 750, 240}, {8280, 5760, 510, 240}, {10320, 6480, 510, 510},
-     {9315, 5760, 615, 195}, Qt::AlignHCenter},
+    {{4920, 6960, 2175, 255},
+     {5040, 7215, 1095, 255},
+     {6120, 7215, 330, 195},
+     {5280, 5520, 1065, 1440},
+     {5520, 5520, 1065, 1440},
+     {5580, 5280, 765, 240},
+     {4680, 5640, 510, 240},
+     {4680, 6720, 510, 510},
+     {5715, 6000, 615, 195},
+     Qt::AlignHCenter},
+    {{1080, 6720, 2175, 255},
+     {1320, 6990, 1095, 255},
+     {2400, 6990, 330, 195},
+     {1440, 5280, 1065, 1440},
+     {1680, 5280, 1065, 1440},
+     {1740, 5040, 765, 240},
+     {2880, 5640, 510, 240},
+     {840, 6600, 510, 510},
+     {1875, 5760, 615, 195},
+     Qt::AlignHCenter},
+    {{-120, 4200, 2175, 255},
+     {120, 4470, 1095, 255},
+     {1200, 4470, 330, 195},
+     {240, 2760, 1095, 1455},
+     {480, 2760, 1095, 1455},
+     {1680, 2880, 750, 240},
+     {1680, 3600, 510, 240},
+     {120, 4680, 510, 510},
+     {675, 3240, 615, 195},
+     Qt::AlignLeft},
+    {{960, 360, 2175, 255},
+     {1200, 630, 1095, 255},
+     {2280, 630, 330, 195},
+     {1440, 840, 1095, 1455},
+     {1680, 840, 1095, 1455},
+     {2400, 2340, 750, 240},
+     {2880, 1560, 510, 240},
+     {840, 600, 510, 510},
+     {1875, 1320, 615, 195},
+     Qt::AlignLeft},
+    {{5160, 360, 1455, 255},
+     {5040, 630, 1095, 255},
+     {6120, 630, 330, 195},
+     {5160, 840, 1095, 1455},
+     {5400, 840, 1095, 1455},
+     {5475, 2340, 750, 240},
+     {4560, 1560, 510, 240},
+     {4560, 480, 510, 510},
+     {5595, 1320, 615, 195},
+     Qt::AlignHCenter},
+    {{8280, 360, 2175, 255},
+     {8520, 630, 1095, 255},
+     {9600, 630, 330, 195},
+     {8760, 840, 1065, 1440},
+     {9000, 840, 1065, 1440},
+     {8655, 2340, 750, 240},
+     {8160, 1440, 510, 240},
+     {8160, 600, 510, 510},
+     {9195, 1320, 615, 195},
+     Qt::AlignRight},
+    {{9480, 4200, 1575, 255},
+     {9240, 4470, 1095, 255},
+     {10320, 4470, 330, 195},
+     {9840, 2760, 1065, 1440},
+     {10080, 2760, 1065, 1440},
+     {9015, 2880, 750, 240},
+     {9240, 3360, 510, 240},
+     {10680, 2160, 510, 510},
+     {10080, 3240, 615, 195},
+     Qt::AlignRight},
+    {{8520, 6720, 2175, 255},
+     {8640, 6990, 1095, 255},
+     {9720, 6990, 330, 195},
+     {8880, 5280, 1065, 1440},
+     {9120, 5280, 1065, 1440},
+     {9240, 5040, 750, 240},
+     {8280, 5760, 510, 240},
+     {10320, 6480, 510, 510},
+     {9315, 5760, 615, 195},
+     Qt::AlignHCenter},
 };
 
 // Arrows of seats 2, 3 and 4 point left, towards their cards.
 bool ArrowPointsLeft(int seat) { return seat >= 2 && seat <= 4; }
 
-const Twips kBoard[5] = {{3000, 3120, 1065, 1440}, {4080, 3120, 1065, 1440}, {5160, 3120, 1065, 1440},
-                         {6240, 3120, 1065, 1440}, {7320, 3120, 1065, 1440}};
+const Twips kBoard[5] = {{3000, 3120, 1065, 1440},
+                         {4080, 3120, 1065, 1440},
+                         {5160, 3120, 1065, 1440},
+                         {6240, 3120, 1065, 1440},
+                         {7320, 3120, 1065, 1440}};
 const Twips kPotLabel{4680, 4710, 1095, 375};
 const Twips kPot{5760, 4710, 450, 360};
 const Twips kBlind{2880, 3840, 1995, 240};
@@ -211,9 +270,9 @@ void frmMain::BuildTable() {
 
 void frmMain::BuildSeat(int s, QWidget* client) {
     const SeatLayout& at = kSeatLayout[s];
-    const QPixmap arrow = ArrowPointsLeft(s)
-                              ? PictureOr(game.AppFolder, QStringLiteral("arrow_left.png"), DrawnArrow(true))
-                              : PictureOr(game.AppFolder, QStringLiteral("arrow_right.png"), DrawnArrow(false));
+    const QPixmap arrow =
+        ArrowPointsLeft(s) ? PictureOr(game.AppFolder, QStringLiteral("arrow_left.png"), DrawnArrow(true))
+                           : PictureOr(game.AppFolder, QStringLiteral("arrow_right.png"), DrawnArrow(false));
     const QPixmap dealer = PictureOr(game.AppFolder, QStringLiteral("dealer.png"), DrawnDealer());
 
     iArrow[s] = new kit::PictureBox(client);
@@ -255,7 +314,8 @@ void frmMain::BuildMiddle(QWidget* client) {
     autoSized_.push_back({lblPot, kit::ToPixels(kPot)});
     for (kit::ClickLabel* pot : {lblPot, lblPotLabel}) pot->setCursor(Qt::PointingHandCursor);
     connect(lblPot, &kit::ClickLabel::clicked, this, [this] { Call([this] { game.lblPot_Click(); }); });
-    connect(lblPotLabel, &kit::ClickLabel::clicked, this, [this] { Call([this] { game.lblPotLabel_Click(); }); });
+    connect(lblPotLabel, &kit::ClickLabel::clicked, this,
+            [this] { Call([this] { game.lblPotLabel_Click(); }); });
 
     lblBlind = new QLabel(client);
     kit::StyleLabel(lblBlind, kit::Sans(9.75, true), Qt::white, Qt::AlignLeft | Qt::AlignTop);
@@ -325,13 +385,18 @@ void frmMain::BuildMenus() {
     mnuFloor = entry(mnuTourney, "&View Floor", [this] { game.mnuFloor_Click(); });
 
     mnuSettings = bar->addMenu(QStringLiteral("&Settings"));
-    mnuSound = entry(mnuSettings, "&Sound", [this] { game.mnuSound_Click(); }, true);
+    mnuSound = entry(
+        mnuSettings, "&Sound", [this] { game.mnuSound_Click(); }, true);
     mnuSettings->addSeparator();
     mnuSpeed = mnuSettings->addMenu(QStringLiteral("&Speed..."));
-    mnuFastSpeed = entry(mnuSpeed, "&Fast", [this] { game.mnuFastSpeed_Click(); }, true);
-    mnuMediumSpeed = entry(mnuSpeed, "&Medium", [this] { game.mnuMediumSpeed_Click(); }, true);
-    mnuSlowSpeed = entry(mnuSpeed, "&Slow", [this] { game.mnuSlowSpeed_Click(); }, true);
-    mnuTips = entry(mnuSettings, "&Tip of the Day", [this] { game.mnuTips_Click(); }, true);
+    mnuFastSpeed = entry(
+        mnuSpeed, "&Fast", [this] { game.mnuFastSpeed_Click(); }, true);
+    mnuMediumSpeed = entry(
+        mnuSpeed, "&Medium", [this] { game.mnuMediumSpeed_Click(); }, true);
+    mnuSlowSpeed = entry(
+        mnuSpeed, "&Slow", [this] { game.mnuSlowSpeed_Click(); }, true);
+    mnuTips = entry(
+        mnuSettings, "&Tip of the Day", [this] { game.mnuTips_Click(); }, true);
 
     mnuHelp = bar->addMenu(QStringLiteral("&Help"));
     mnuHelpIndex = entry(mnuHelp, "Help", [this] { game.platform->ShowInfo(InfoForm::Help); });
@@ -361,8 +426,10 @@ void frmMain::SizeToText(const AutoSized& item) {
     int height = std::max(item.box.height(), metrics.height());
     int left = item.box.left();
     // Grow about the anchor the alignment names, so no text is clipped.
-    if (label->alignment() & Qt::AlignHCenter) left = item.box.center().x() + 1 - width / 2;
-    else if (label->alignment() & Qt::AlignRight) left = item.box.right() + 1 - width;
+    if (label->alignment() & Qt::AlignHCenter)
+        left = item.box.center().x() + 1 - width / 2;
+    else if (label->alignment() & Qt::AlignRight)
+        left = item.box.right() + 1 - width;
     label->setGeometry(left, item.box.top(), width, height);
 }
 
@@ -420,8 +487,10 @@ void frmMain::SyncTimers() {
         int interval = std::max<int32_t>(1, state.interval);
         // A timer newly switched on starts a full interval; a running one
         // keeps its rhythm unless its interval changed.
-        if (!t->isActive()) t->start(interval);
-        else if (t->interval() != interval) t->start(interval);
+        if (!t->isActive())
+            t->start(interval);
+        else if (t->interval() != interval)
+            t->start(interval);
     }
 }
 
@@ -518,8 +587,10 @@ bool frmMain::mnuExit_Click() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (quitting_ || Exit(true)) event->accept();
-    else event->ignore();
+    if (quitting_ || Exit(true))
+        event->accept();
+    else
+        event->ignore();
 }
 
 }  // namespace holdem

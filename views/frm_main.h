@@ -74,8 +74,8 @@ public:
     QAction *mnuNew = nullptr, *mnuOpen = nullptr, *mnuSave = nullptr, *mnuSaveAs = nullptr,
             *mnuExit = nullptr;
     QAction *mnuStandings = nullptr, *mnuFloor = nullptr;
-    QAction *mnuSound = nullptr, *mnuFastSpeed = nullptr, *mnuMediumSpeed = nullptr,
-            *mnuSlowSpeed = nullptr, *mnuTips = nullptr;
+    QAction *mnuSound = nullptr, *mnuFastSpeed = nullptr, *mnuMediumSpeed = nullptr, *mnuSlowSpeed = nullptr,
+            *mnuTips = nullptr;
     QAction *mnuHelpIndex = nullptr, *mnuRules = nullptr, *mnuAbout = nullptr;
 
     std::array<QTimer*, kTimerCount> timers{};

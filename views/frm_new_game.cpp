@@ -32,12 +32,12 @@ frmNewGame::frmNewGame(int16_t gameSpeed, QWidget* parent)
         Place(list, {2640, top, 1560, 315});
         return list;
     };
-    cbGameType = row(QStringLiteral("Game Type:"), {QStringLiteral("Single Table"), QString::fromLatin1(kTournament)},
-                     360, lblGameType);
-    cbPlayers = row(QStringLiteral("Players In Tournament:"), {QStringLiteral("80"), QStringLiteral("200"), QStringLiteral("1,000")},
-                    840, lblPlayers);
-    cbSpeed = row(QStringLiteral("Game Speed:"), {QStringLiteral("Fast"), QStringLiteral("Medium"), QStringLiteral("Slow")},
-                  1320, lblSpeed);
+    cbGameType = row(QStringLiteral("Game Type:"),
+                     {QStringLiteral("Single Table"), QString::fromLatin1(kTournament)}, 360, lblGameType);
+    cbPlayers = row(QStringLiteral("Players In Tournament:"),
+                    {QStringLiteral("80"), QStringLiteral("200"), QStringLiteral("1,000")}, 840, lblPlayers);
+    cbSpeed = row(QStringLiteral("Game Speed:"),
+                  {QStringLiteral("Fast"), QStringLiteral("Medium"), QStringLiteral("Slow")}, 1320, lblSpeed);
     cbGameType->setCurrentIndex(0);
     cbPlayers->setCurrentIndex(0);
     cbSpeed->setCurrentText(Q(SpeedItemFor(gameSpeed)));

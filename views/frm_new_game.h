@@ -13,7 +13,7 @@ namespace holdem {
 class frmNewGame : public QDialog {
     Q_OBJECT
 public:
-    frmNewGame(int16_t gameSpeed, QWidget* parent = nullptr);
+    frmNewGame(int16_t gameSpeed, QWidget *parent = nullptr);
 
     // The lists as the user left them; cancelled unless [OK] was pressed.
     NewGameChoices Choices() const;

@@ -24,7 +24,8 @@ frmPotBreakdown::frmPotBreakdown(const PotBreakdown& breakdown, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint) {
     setFixedSize(kClient);
     kit::SetBackground(this, kGround);
-    auto label = [this](const QString& text, const kit::Twips& place, Qt::Alignment align, bool bold = false) {
+    auto label = [this](const QString& text, const kit::Twips& place, Qt::Alignment align,
+                        bool bold = false) {
         auto* l = new QLabel(text, this);
         kit::StyleLabel(l, kit::Sans(8.25, bold), Qt::white, align | Qt::AlignVCenter);
         Place(l, place);

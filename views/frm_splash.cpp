@@ -52,7 +52,8 @@ frmSplash::frmSplash(const std::string& appFolder, QWidget* parent)
         Place(*images[i], {kFanLefts[i], 2160, 1065, 1440});
     }
 
-    auto label = [this](const QString& text, const QFont& font, const kit::Twips& place, Qt::Alignment align) {
+    auto label = [this](const QString& text, const QFont& font, const kit::Twips& place,
+                        Qt::Alignment align) {
         auto* l = new QLabel(text, this);
         kit::StyleLabel(l, font, Qt::white, align | Qt::AlignVCenter);
         Place(l, place);
@@ -61,7 +62,8 @@ frmSplash::frmSplash(const std::string& appFolder, QWidget* parent)
     QFont title = kit::Face(kit::kBookmanFace, 24);
     lblCompanyProduct = label(QStringLiteral("Corvane"), title, {2400, 360, 3030, 570}, Qt::AlignLeft);
     lblProductName = label(QStringLiteral("Texas Hold'em"), title, {2160, 960, 3660, 570}, Qt::AlignLeft);
-    lblPlatform = label(QStringLiteral("For Windows"), kit::Sans(9.75, true), {4410, 2520, 1395, 255}, Qt::AlignRight);
+    lblPlatform =
+        label(QStringLiteral("For Windows"), kit::Sans(9.75, true), {4410, 2520, 1395, 255}, Qt::AlignRight);
     lblVersion = label(QString(), kit::Sans(9.75, true), {4605, 2820, 1170, 255}, Qt::AlignRight);
 
     timerSplash = new QTimer(this);

@@ -63,14 +63,19 @@ MsgAnswer QtPlatform::MessageBox(const std::string& text, const std::string& tit
     if (icon == MsgIcon::Exclamation) qtIcon = QMessageBox::Warning;
     QMessageBox::StandardButtons qtButtons = QMessageBox::Ok;
     if (buttons == MsgButtons::YesNo) qtButtons = QMessageBox::Yes | QMessageBox::No;
-    if (buttons == MsgButtons::YesNoCancel) qtButtons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    if (buttons == MsgButtons::YesNoCancel)
+        qtButtons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     QMessageBox box(qtIcon, Q(title), Q(text), qtButtons, Owner());
     if (buttons != MsgButtons::OK) box.setDefaultButton(QMessageBox::Yes);
     switch (box.exec()) {
-    case QMessageBox::Yes: return MsgAnswer::Yes;
-    case QMessageBox::No: return MsgAnswer::No;
-    case QMessageBox::Cancel: return MsgAnswer::Cancel;
-    default: return buttons == MsgButtons::YesNoCancel ? MsgAnswer::Cancel : MsgAnswer::OK;
+        case QMessageBox::Yes:
+            return MsgAnswer::Yes;
+        case QMessageBox::No:
+            return MsgAnswer::No;
+        case QMessageBox::Cancel:
+            return MsgAnswer::Cancel;
+        default:
+            return buttons == MsgButtons::YesNoCancel ? MsgAnswer::Cancel : MsgAnswer::OK;
     }
 }
 
@@ -99,7 +104,8 @@ std::optional<std::string> QtPlatform::SaveFileDialog(const FileDialogRequest& r
         QFileInfo info(path);
         if (!info.exists()) return S(path);
         QMessageBox::StandardButton answer = QMessageBox::warning(
-            window_, Q(request.title), QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(info.fileName()),
+            window_, Q(request.title),
+            QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(info.fileName()),
             QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
         if (answer == QMessageBox::Yes) return S(path);
         folder = info.absolutePath();
@@ -158,33 +164,33 @@ void QtPlatform::ShowFloor(const std::string& standingsPath) {
 void QtPlatform::ShowInfo(InfoForm form) {
     const std::string& folder = window_->game.AppFolder;
     switch (form) {
-    case InfoForm::Splash: {
-        frmSplash splash(folder, Owner());
-        splash.exec();
-        break;
-    }
-    case InfoForm::Tip: {
-        frmTip tip(window_->game, Owner());
-        tip.exec();
-        // The tip's check box moves the menu's check mark.
-        window_->RedrawWidgets();
-        break;
-    }
-    case InfoForm::Help:
-        if (!help_) help_ = new frmHelp(folder, window_);
-        Owner();
-        help_->exec();
-        break;
-    case InfoForm::Rules:
-        if (!rules_) rules_ = new frmRules(folder, window_);
-        Owner();
-        rules_->exec();
-        break;
-    case InfoForm::About: {
-        frmAbout about(folder, Owner());
-        about.exec();
-        break;
-    }
+        case InfoForm::Splash: {
+            frmSplash splash(folder, Owner());
+            splash.exec();
+            break;
+        }
+        case InfoForm::Tip: {
+            frmTip tip(window_->game, Owner());
+            tip.exec();
+            // The tip's check box moves the menu's check mark.
+            window_->RedrawWidgets();
+            break;
+        }
+        case InfoForm::Help:
+            if (!help_) help_ = new frmHelp(folder, window_);
+            Owner();
+            help_->exec();
+            break;
+        case InfoForm::Rules:
+            if (!rules_) rules_ = new frmRules(folder, window_);
+            Owner();
+            rules_->exec();
+            break;
+        case InfoForm::About: {
+            frmAbout about(folder, Owner());
+            about.exec();
+            break;
+        }
     }
 }
 

@@ -52,8 +52,10 @@ void GrowToText(QLabel* label) {
     QRect box = label->geometry();
     if (needed <= box.width()) return;
     int left = box.left();
-    if (label->alignment() & Qt::AlignHCenter) left = box.center().x() + 1 - needed / 2;
-    else if (label->alignment() & Qt::AlignRight) left = box.right() + 1 - needed;
+    if (label->alignment() & Qt::AlignHCenter)
+        left = box.center().x() + 1 - needed / 2;
+    else if (label->alignment() & Qt::AlignRight)
+        left = box.right() + 1 - needed;
     label->setGeometry(left, box.top(), needed, std::max(box.height(), label->fontMetrics().height()));
 }
 
@@ -84,7 +86,8 @@ QPixmap DrawnCardFace(int card) {
     p.drawText(QRect(8, 4, 60, 34), Qt::AlignLeft | Qt::AlignTop, QString::fromLatin1(kRanks[RankOf(card)]));
     p.drawText(QRect(8, 36, 40, 34), Qt::AlignLeft | Qt::AlignTop, QString(QChar(kSuits[SuitOf(card)])));
     p.setFont(Face(kSansFace, 54));
-    p.drawText(QRect(0, 50, kCardWidth2x, kCardHeight2x - 50), Qt::AlignCenter, QString(QChar(kSuits[SuitOf(card)])));
+    p.drawText(QRect(0, 50, kCardWidth2x, kCardHeight2x - 50), Qt::AlignCenter,
+               QString(QChar(kSuits[SuitOf(card)])));
     return pixmap;
 }
 

@@ -26,10 +26,10 @@ inline void Place(QWidget* w, const Twips& t) { w->setGeometry(ToPixels(t)); }
 
 // Faces standing in for the ones the layout was drawn with. Sizes are points
 // at 96 dpi turned into pixels, because the layout itself is in pixels.
-inline constexpr const char* kSansFace = "Liberation Sans";      // Arial, MS Sans Serif
-inline constexpr const char* kSerifFace = "Liberation Serif";    // Times New Roman
-inline constexpr const char* kBookmanFace = "URW Bookman";       // Bookman Old Style
-inline constexpr const char* kDisplayFace = "Lobster Two";       // NewZurica
+inline constexpr const char* kSansFace = "Liberation Sans";    // Arial, MS Sans Serif
+inline constexpr const char* kSerifFace = "Liberation Serif";  // Times New Roman
+inline constexpr const char* kBookmanFace = "URW Bookman";     // Bookman Old Style
+inline constexpr const char* kDisplayFace = "Lobster Two";     // NewZurica
 QFont Face(const char* family, double points, bool bold = false, bool italic = false);
 inline QFont Sans(double points, bool bold = false, bool italic = false) {
     return Face(kSansFace, points, bold, italic);

@@ -165,10 +165,10 @@ private slots:
     }
 
     void gameOverNamesThePlaceWithItsEnding() {
-        const std::pair<int16_t, const char*> cases[] = {{1, "You Finished 1st"},    {2, "You Finished 2nd"},
-                                                         {3, "You Finished 3rd"},    {11, "You Finished 11th"},
-                                                         {22, "You Finished 22nd"},  {112, "You Finished 112th"},
-                                                         {101, "You Finished 101st"}, {1000, "You Finished 1000th"}};
+        const std::pair<int16_t, const char*> cases[] = {
+            {1, "You Finished 1st"},     {2, "You Finished 2nd"},      {3, "You Finished 3rd"},
+            {11, "You Finished 11th"},   {22, "You Finished 22nd"},    {112, "You Finished 112th"},
+            {101, "You Finished 101st"}, {1000, "You Finished 1000th"}};
         for (const auto& [place, text] : cases) {
             frmGameOver form(place);
             QCOMPARE(form.lblFinished->text(), QString(text));
@@ -193,7 +193,8 @@ private slots:
         QCOMPARE(form.cbPlayers->currentText(), QString("80"));
         QCOMPARE(form.cbSpeed->currentText(), QString("Slow"));
         QVERIFY(!form.cbPlayers->isEnabled());
-        QVERIFY(!form.cbGameType->isEditable() && !form.cbPlayers->isEditable() && !form.cbSpeed->isEditable());
+        QVERIFY(!form.cbGameType->isEditable() && !form.cbPlayers->isEditable() &&
+                !form.cbSpeed->isEditable());
         form.cbGameType->setCurrentText("Tournament");
         QVERIFY(form.cbPlayers->isEnabled());
         form.cbPlayers->setCurrentText("1,000");

@@ -46,6 +46,7 @@ private slots:
     void theTableAfterTheDealAndAfterTheShowdown() {
         test::ScriptedPlatform platform;
         frmMain w(QCoreApplication::applicationDirPath().toStdString(), &platform);
+        w.Start();
         test::SetUpHeadsUp(w.game);
         w.game.rnd.Script(test::HeadsUpDraws());
         platform.betAmounts.push_back(500);
@@ -96,7 +97,8 @@ private slots:
                 bet.lblMaxRaiseAmount->width());
 
         PotBreakdown b;
-        const char* names[] = {"", "Ann Player", "Bob Bluff", "", "Dora", "Eve", "Francesca Rossi", "Gus", "Hiro"};
+        const char* names[] = {"",    "Ann Player",      "Bob Bluff", "",    "Dora",
+                               "Eve", "Francesca Rossi", "Gus",       "Hiro"};
         for (int s = 1; s <= kSeats; ++s) {
             b.name[s] = names[s];
             b.bet[s] = s == 3 ? 0 : s * 1100;

@@ -85,7 +85,8 @@ private slots:
         QCOMPARE(w.game.AppFolder, Folder());
         QCOMPARE(w.game.StandingsPath, Folder() + "stnd.dat");
         QCOMPARE(w.game.GameSpeed, int16_t(1));
-        QVERIFY(w.mnuFastSpeed->isChecked() && !w.mnuMediumSpeed->isChecked() && !w.mnuSlowSpeed->isChecked());
+        QVERIFY(w.mnuFastSpeed->isChecked() && !w.mnuMediumSpeed->isChecked() &&
+                !w.mnuSlowSpeed->isChecked());
         QCOMPARE(w.game.view.timer[TimerBetHole].interval, 800);
         QVERIFY(!w.mnuSound->isChecked());
         QVERIFY(w.mnuTips->isChecked());
@@ -195,8 +196,10 @@ private slots:
         w.mnuSlowSpeed->trigger();
         platform.answers.push_back(MsgAnswer::No);
 
-        if (closeBox) w.close();
-        else QVERIFY(w.mnuExit_Click());
+        if (closeBox)
+            w.close();
+        else
+            QVERIFY(w.mnuExit_Click());
 
         QCOMPARE(platform.messages.size(), size_t(asks ? 1 : 0));
         if (asks) {
@@ -223,8 +226,10 @@ private slots:
             GameInPlay(w.game);
             w.mnuFastSpeed->trigger();
             platform.answers.push_back(MsgAnswer::Cancel);
-            if (closeBox) w.close();
-            else QVERIFY(!w.mnuExit_Click());
+            if (closeBox)
+                w.close();
+            else
+                QVERIFY(!w.mnuExit_Click());
             QCOMPARE(platform.messages.size(), size_t(1));
             QCOMPARE(quits, 0);
             QVERIFY(w.isVisible());
