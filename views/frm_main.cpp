@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QThread>
 #include <QTimer>
 
@@ -200,6 +201,16 @@ QPixmap DrawnDealer() {
     p.drawText(QRect(0, 0, 68, 68), Qt::AlignCenter, QStringLiteral("DEALER"));
     return pixmap;
 }
+
+// Sets Game::UserDataFolder where the game has that field; until the files
+// routines bring it, there is nothing to set.
+template <typename G>
+auto SetUserDataFolder(G& game, const std::string& folder, int)
+    -> decltype(game.UserDataFolder = folder, void()) {
+    game.UserDataFolder = folder;
+}
+template <typename G>
+void SetUserDataFolder(G&, const std::string&, long) {}
 
 QPixmap PictureOr(const std::string& appFolder, const QString& name, const QPixmap& fallback) {
     QPixmap pixmap = kit::LoadPicture(appFolder, name);
@@ -541,7 +552,9 @@ void frmMain::ShowInfo(InfoForm form) {
 
 void frmMain::Start() {
     // The per-user folder takes what cannot be written beside the program.
-    // TODO(window): game.UserDataFolder once the files routines have it.
+    std::string userData = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+    if (!userData.empty() && userData.back() != '/') userData += '/';
+    SetUserDataFolder(game, userData, 0);
     picTableMoney->setGeometry(QRect(QPoint(0, 0), kWinnerPanel));
     Call([this] {
         game.ReadSettings();
