@@ -1,0 +1,231 @@
+// holdem-sim: the whole engine without a window. Plays complete games with
+// seat 1 driven by a chosen policy, fires each enabled timer at once, and
+// checks after every hand that chips are conserved, that at most one hand
+// timer ran and that no closing check fired. Exits non-zero on any violation.
+//
+//   holdem-sim --players 8|80|200|1000 --games N --seed S
+//              --policy caller|folder|raiser|rule [--log]
+//   holdem-sim --bench
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <deque>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "engine/game_state.h"
+#include "engine/autoplay.h"
+
+using namespace holdem;
+using namespace holdem::sim;
+
+namespace {
+
+struct Options {
+    int players = 8;
+    int games = 1;
+    uint64_t seed = 1;
+    Policy policy = Policy::Rule;
+    bool log = false;
+    bool bench = false;
+};
+
+[[noreturn]] void Usage(const char* why) {
+    std::fprintf(stderr,
+                 "holdem-sim: %s\n"
+                 "usage: holdem-sim [--players 8|80|200|1000] [--games N] [--seed S]\n"
+                 "                  [--policy caller|folder|raiser|rule] [--log] | --bench\n",
+                 why);
+    std::exit(2);
+}
+
+Options Parse(int argc, char** argv) {
+    Options o;
+    for (int i = 1; i < argc; ++i) {
+        std::string a = argv[i];
+        auto value = [&](const char* name) -> std::string {
+            if (i + 1 >= argc) {
+                std::string why = name;
+                why += " needs a value";
+                Usage(why.c_str());
+            }
+            return argv[++i];
+        };
+        if (a == "--players") {
+            o.players = std::atoi(value("--players").c_str());
+            if (o.players != 8 && o.players != 80 && o.players != 200 && o.players != 1000)
+                Usage("--players must be 8, 80, 200 or 1000");
+        } else if (a == "--games") {
+            o.games = std::atoi(value("--games").c_str());
+            if (o.games < 1) Usage("--games must be at least 1");
+        } else if (a == "--seed") {
+            o.seed = std::strtoull(value("--seed").c_str(), nullptr, 10);
+        } else if (a == "--policy") {
+            if (!ParsePolicy(value("--policy"), o.policy)) Usage("unknown policy");
+        } else if (a == "--log") {
+            o.log = true;
+        } else if (a == "--bench") {
+            o.bench = true;
+        } else {
+            std::string why = "unknown option ";
+            why += a;
+            Usage(why.c_str());
+        }
+    }
+    return o;
+}
+
+std::string AppFolderOf(const char* argv0) {
+    std::error_code ec;
+    auto exe = std::filesystem::canonical("/proc/self/exe", ec);
+    std::filesystem::path dir = ec ? std::filesystem::path(argv0).parent_path() : exe.parent_path();
+    if (dir.empty()) dir = ".";
+    return (dir / "").string();
+}
+
+// ---- The benchmark: fixed seeds, a signature of the results, the figures ----
+
+double Seconds(std::chrono::steady_clock::time_point a, std::chrono::steady_clock::time_point b) {
+    return std::chrono::duration<double>(b - a).count();
+}
+
+// Seat evaluations of RankHands per second, over fixed random river deals.
+double BenchRankHands(Signature& sig) {
+    SilentPlatform plat;
+    Game g(plat);
+    g.rnd.SeedDeterministic(12345);
+    constexpr int kDeals = 4096;
+    std::vector<std::array<int16_t, 21>> deals(kDeals);
+    for (auto& d : deals) {
+        std::array<int16_t, 52> pool;
+        for (int i = 0; i < 52; ++i) pool[i] = static_cast<int16_t>(i + 1);
+        for (int i = 0; i < 21; ++i) {
+            int j = i + static_cast<int>(g.rnd.Rnd() * static_cast<float>(52 - i));
+            if (j > 51) j = 51;
+            std::swap(pool[i], pool[j]);
+            d[i] = pool[i];
+        }
+    }
+    for (int s = 1; s <= kSeats; ++s) g.SeatInHand[s] = true;
+    g.CardsKnown = 7;
+    const int rounds = 60;
+    auto t0 = std::chrono::steady_clock::now();
+    for (int r = 0; r < rounds; ++r) {
+        for (const auto& d : deals) {
+            for (int s = 1; s <= kSeats; ++s) {
+                g.SeatCards[s][1] = d[2 * s - 2];
+                g.SeatCards[s][2] = d[2 * s - 1];
+            }
+            for (int k = 0; k < 5; ++k) {
+                g.Deck[16 + k] = d[16 + k];
+                for (int s = 1; s <= kSeats; ++s) g.SeatCards[s][3 + k] = d[16 + k];
+            }
+            g.RankHands();
+            if (r == 0)
+                for (int s = 1; s <= kSeats; ++s) sig.Mix(static_cast<uint64_t>(g.SeatHandCode[s]));
+        }
+    }
+    auto t1 = std::chrono::steady_clock::now();
+    return static_cast<double>(rounds) * kDeals * kSeats / Seconds(t0, t1);
+}
+
+int RunBench(const std::string& appFolder) {
+    Signature sig;
+    int violations = 0;
+    double evals = BenchRankHands(sig);
+
+    // Whole single-table hands, seat 1 on the opponents' rule.
+    long long hands = 0;
+    auto t0 = std::chrono::steady_clock::now();
+    for (uint64_t seed = 1; seed <= 200; ++seed) {
+        GameResult r = PlayOneGame(appFolder, 8, seed, Policy::Rule, nullptr);
+        hands += r.hands;
+        violations += static_cast<int>(r.violations.size());
+        sig.Add(r);
+    }
+    double singleSeconds = Seconds(t0, std::chrono::steady_clock::now());
+
+    // One round of background hands at a full 1,000-player field (124 tables).
+    std::vector<double> rounds;
+    {
+        SilentPlatform plat;
+        Game g(plat);
+        g.AppFolder = appFolder;
+        g.rnd.SeedDeterministic(99);
+        SetUpGame(g, 1000);
+        g.StopHandTimers();
+        auto bank = g.RosterBank;
+        auto number = g.RosterNumber;
+        for (int i = 0; i < 400; ++i) {
+            g.RosterBank = bank;
+            g.RosterNumber = number;
+            g.TablesInPlay = 125;
+            auto a = std::chrono::steady_clock::now();
+            g.PlayOtherTables();
+            rounds.push_back(Seconds(a, std::chrono::steady_clock::now()));
+            if (i < 4)
+                for (int p = 9; p <= 1000; p += 37) sig.Mix(static_cast<uint64_t>(g.RosterBank[p]));
+        }
+    }
+    std::sort(rounds.begin(), rounds.end());
+
+    // Whole 1,000-player tournaments to their end.
+    std::vector<double> tournaments;
+    long long tournamentHands = 0;
+    for (uint64_t seed = 7; seed < 12; ++seed) {
+        auto a = std::chrono::steady_clock::now();
+        GameResult r = PlayOneGame(appFolder, 1000, seed, Policy::Rule, nullptr);
+        tournaments.push_back(Seconds(a, std::chrono::steady_clock::now()));
+        tournamentHands += r.hands;
+        violations += static_cast<int>(r.violations.size());
+        sig.Add(r);
+    }
+
+    std::printf("signature                         %016llx\n", static_cast<unsigned long long>(sig.value));
+    std::printf("RankHands seat evaluations/s      %.0f\n", evals);
+    std::printf("single-table hands/s              %.0f  (%lld hands)\n", hands / singleSeconds, hands);
+    std::printf("background round, 124 tables      median %.3f ms, slowest %.3f ms\n",
+                rounds[rounds.size() / 2] * 1e3, rounds.back() * 1e3);
+    std::printf("1,000-player tournament to end    median %.3f s, slowest %.3f s  (%lld shown hands in 5)\n",
+                tournaments[tournaments.size() / 2], *std::max_element(tournaments.begin(), tournaments.end()),
+                tournamentHands);
+    std::printf("violations                        %d\n", violations);
+    return violations == 0 ? 0 : 1;
+}
+
+int PlayGames(const Options& o, const std::string& appFolder) {
+    Signature sig;
+    Totals totals;
+    for (int g = 0; g < o.games; ++g) {
+        GameResult r = PlayOneGame(appFolder, o.players, o.seed + static_cast<uint64_t>(g), o.policy,
+                                   o.log ? stdout : nullptr);
+        totals.Add(r);
+        sig.Add(r);
+        if (!r.violations.empty()) {
+            for (const auto& v : r.violations)
+                std::printf("VIOLATION game %d (seed %llu): %s\n", g + 1,
+                            static_cast<unsigned long long>(o.seed + g), v.c_str());
+        }
+        if (o.games <= 20 || o.log)
+            std::printf("game %d: %s after %d hands, user place %d\n", g + 1,
+                        r.userWon ? "user won" : "user out", r.hands, r.userPlace);
+    }
+    std::printf("games %d, hands %lld, user won %d, violations %d\n", o.games,
+                static_cast<long long>(totals.hands), totals.userWins, totals.violations);
+    std::printf("signature %016llx\n", static_cast<unsigned long long>(sig.value));
+    return totals.violations == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Options o = Parse(argc, argv);
+    std::string appFolder = AppFolderOf(argv[0]);
+    if (o.bench) return RunBench(appFolder);
+    return PlayGames(o, appFolder);
+}
