@@ -5,7 +5,8 @@
 // to seat 2, so seat 1 holds Deck[6] = 47 (Nine of clubs) and Deck[14] = 39
 // (Ace of diamonds), seat 2 Deck[7] = 46 and Deck[15] = 38 (Eight of clubs,
 // King of diamonds), and the board is Deck[16..20] = 37, 36, 35, 34, 33: the
-// Queen down to the Eight of diamonds. The user ends with the royal flush.
+// Queen down to the Eight of diamonds: both hold a straight flush, and seat
+// 2's King of diamonds makes the higher one.
 #pragma once
 
 #include <QAbstractButton>

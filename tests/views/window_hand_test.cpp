@@ -138,20 +138,22 @@ private slots:
         QCOMPARE(Text(w.lblBet[2]), QString("Called $500"));
         QCOMPARE(Text(w.lblPot), QString("1,400"));
 
-        // The showdown: both hands face up, the pot to the user.
+        // The showdown: both hands face up; seat 2's King makes the higher
+        // straight flush and takes the pot.
         Tick(w, TimerHandOver);
         QVERIFY(test::NoTimerRunning(w));
         QVERIFY(Face(w, 2, test::kSeat2Hole[0]) && Face(w, 10, test::kSeat2Hole[1]));
         for (int k : {1, 2, 9, 10, 17, 18, 19, 20, 21}) QVERIFY(Shows(w.icard[k]));
         QVERIFY(!Text(w.lblBet[1]).isEmpty());
         QCOMPARE(Text(w.lblBet[1]), QString::fromStdString(w.game.SeatHandName[1]));
-        QCOMPARE(Text(w.lblPaid[1]), QString("Paid $1,400"));
-        QVERIFY(Shows(w.lblPaid[1]) && !Shows(w.lblPaid[2]));
-        QCOMPARE(Text(w.lblBank[1]), QString("10,700"));
-        QCOMPARE(Text(w.lblBank[2]), QString("9,300"));
-        QVERIFY(Shows(w.iArrow[1]) && !Shows(w.iArrow[2]));
+        QCOMPARE(Text(w.lblBet[2]), QString::fromStdString(w.game.SeatHandName[2]));
+        QCOMPARE(Text(w.lblPaid[2]), QString("Paid $1,400"));
+        QVERIFY(Shows(w.lblPaid[2]) && !Shows(w.lblPaid[1]));
+        QCOMPARE(Text(w.lblBank[1]), QString("9,300"));
+        QCOMPARE(Text(w.lblBank[2]), QString("10,700"));
+        QVERIFY(Shows(w.iArrow[2]) && !Shows(w.iArrow[1]));
         QCOMPARE(Text(w.lblPot), QString("1,400"));
-        QCOMPARE(platform.sounds.back(), std::string("WONHAND"));
+        QCOMPARE(platform.sounds.back(), std::string("LOSTHAND"));
         QCOMPARE(platform.pauses, 1);
         QCOMPARE(Count(platform, "DEAL"), 9);
         QCOMPARE(Count(platform, "BUTTONCLICK"), 4);
@@ -159,7 +161,8 @@ private slots:
         for (int i = 1; i <= 4; ++i) QVERIFY(!Shows(w.cmdPlay[i]));
         QVERIFY(w.mnuSave->isEnabled() && w.mnuSaveAs->isEnabled());
         QVERIFY(!w.picTableMoney->isVisible());
-        QCOMPARE(w.game.RosterBank[1], 10700);
+        QCOMPARE(w.game.RosterBank[1], 9300);
+        QCOMPARE(w.game.RosterBank[2], 10700);
         QCOMPARE(w.game.rnd.Remaining(), size_t(0));
         QCOMPARE(w.game.rnd.Overdrawn(), 0);
         QVERIFY(platform.messages.empty());
