@@ -1,0 +1,154 @@
+#include "views/view_kit.h"
+
+#include <QFile>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <cmath>
+
+#include "engine/common.h"
+
+namespace holdem::kit {
+
+namespace {
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+// Pictures are drawn at twice their listed size; the fallback cards match.
+constexpr int kCardWidth2x = 138;
+constexpr int kCardHeight2x = 188;
+const char* const kRanks[] = {"", "2", "3", "4", "5", "6", "7", "8", "9", "10", "J", "Q", "K", "A"};
+// Hearts, spades, diamonds, clubs, as the picture numbers run.
+const char16_t kSuits[] = {u'\u2665', u'\u2660', u'\u2666', u'\u2663'};
+}  // namespace
+
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+std::string S(const QString& s) { return s.toStdString(); }
+
+QFont Face(const char* family, double points, bool bold, bool italic) {
+    QFont font(QString::fromLatin1(family));
+    font.setPixelSize(static_cast<int>(std::lround(points * kPixelsPerPoint)));
+    font.setBold(bold);
+    font.setItalic(italic);
+    return font;
+}
+
+void StyleLabel(QLabel* label, const QFont& font, const QColor& colour, Qt::Alignment align) {
+    label->setFont(font);
+    QPalette pal = label->palette();
+    pal.setColor(QPalette::WindowText, colour);
+    label->setPalette(pal);
+    label->setAlignment(align);
+    label->setAutoFillBackground(false);
+}
+
+void SetBackground(QWidget* w, const QColor& colour) {
+    QPalette pal = w->palette();
+    pal.setColor(QPalette::Window, colour);
+    w->setPalette(pal);
+    w->setAutoFillBackground(true);
+}
+
+void GrowToText(QLabel* label) {
+    int needed = label->fontMetrics().horizontalAdvance(label->text()) + 2;
+    QRect box = label->geometry();
+    if (needed <= box.width()) return;
+    int left = box.left();
+    if (label->alignment() & Qt::AlignHCenter)
+        left = box.center().x() + 1 - needed / 2;
+    else if (label->alignment() & Qt::AlignRight)
+        left = box.right() + 1 - needed;
+    label->setGeometry(left, box.top(), needed, std::max(box.height(), label->fontMetrics().height()));
+}
+
+QPixmap LoadPicture(const std::string& appFolder, const QString& name) {
+    QString path = Q(appFolder) + QStringLiteral("pictures/") + name;
+    QPixmap pixmap;
+    if (QFile::exists(path)) pixmap.load(path);
+    return pixmap;
+}
+
+QString CardName(int card) {
+    if (card < 1 || card > kDeckSize) return {};
+    return QString::fromLatin1(kRanks[RankOf(card)]) + QChar(kSuits[SuitOf(card)]);
+}
+
+QPixmap DrawnCardFace(int card) {
+    QPixmap pixmap(kCardWidth2x, kCardHeight2x);
+    pixmap.fill(Qt::transparent);
+    QPainter p(&pixmap);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(QColor(90, 90, 90), 2));
+    p.setBrush(Qt::white);
+    p.drawRoundedRect(QRectF(1, 1, kCardWidth2x - 2, kCardHeight2x - 2), 10, 10);
+    bool red = SuitOf(card) == 0 || SuitOf(card) == 2;
+    p.setPen(red ? QColor(200, 0, 0) : Qt::black);
+    QFont corner = Face(kSansFace, 22, true);
+    p.setFont(corner);
+    p.drawText(QRect(8, 4, 60, 34), Qt::AlignLeft | Qt::AlignTop, QString::fromLatin1(kRanks[RankOf(card)]));
+    p.drawText(QRect(8, 36, 40, 34), Qt::AlignLeft | Qt::AlignTop, QString(QChar(kSuits[SuitOf(card)])));
+    p.setFont(Face(kSansFace, 54));
+    p.drawText(QRect(0, 50, kCardWidth2x, kCardHeight2x - 50), Qt::AlignCenter,
+               QString(QChar(kSuits[SuitOf(card)])));
+    return pixmap;
+}
+
+QPixmap DrawnCardBack() {
+    QPixmap pixmap(kCardWidth2x, kCardHeight2x);
+    pixmap.fill(Qt::transparent);
+    QPainter p(&pixmap);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(Qt::white, 4));
+    p.setBrush(QColor(20, 40, 140));
+    p.drawRoundedRect(QRectF(2, 2, kCardWidth2x - 4, kCardHeight2x - 4), 10, 10);
+    p.setPen(QPen(QColor(120, 140, 220), 2));
+    for (int d = -kCardHeight2x; d < kCardWidth2x + kCardHeight2x; d += 14) {
+        p.drawLine(QPointF(10 + d, 10), QPointF(10 + d + kCardHeight2x - 20, kCardHeight2x - 10));
+        p.drawLine(QPointF(10 + d, kCardHeight2x - 10), QPointF(10 + d + kCardHeight2x - 20, 10));
+    }
+    return pixmap;
+}
+
+CardPictures::CardPictures(const std::string& appFolder) {
+    pictures_[0] = LoadPicture(appFolder, QStringLiteral("card_back.png"));
+    if (pictures_[0].isNull()) pictures_[0] = DrawnCardBack();
+    for (int n = 1; n <= kDeckSize; ++n) {
+        pictures_[n] = LoadPicture(appFolder, QStringLiteral("card_%1.png").arg(n, 2, 10, QChar('0')));
+        if (pictures_[n].isNull()) pictures_[n] = DrawnCardFace(n);
+    }
+}
+
+const QPixmap& CardPictures::Get(int picture) const {
+    return pictures_[picture >= 1 && picture <= kDeckSize ? picture : 0];
+}
+
+PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {}
+
+void PictureBox::setPicture(const QPixmap& picture) {
+    if (picture.cacheKey() == picture_.cacheKey()) return;
+    picture_ = picture;
+    scaled_ = QPixmap();
+    update();
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    QSize target = natural_.isValid() ? natural_ : size();
+    if (picture_.isNull()) {
+        if (fallback_.isValid()) p.fillRect(rect(), fallback_);
+        return;
+    }
+    // Scale once per size with a smooth filter, at the device's pixel ratio.
+    qreal ratio = devicePixelRatioF();
+    QSize device = target * ratio;
+    if (scaled_.isNull() || scaled_.size() != device) {
+        scaled_ = picture_.scaled(device, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        scaled_.setDevicePixelRatio(ratio);
+    }
+    p.drawPixmap(QPoint(0, 0), scaled_);
+}
+
+void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) emit clicked();
+    QLabel::mouseReleaseEvent(event);
+}
+
+}  // namespace holdem::kit
