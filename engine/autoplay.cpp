@@ -202,6 +202,11 @@ void SetUpGame(Game& game, int players) {
     game.HandsPlayed = 0;
     game.GameEnded = false;
     game.SeatName[1] = "Player 1";
+    // The shipped roster when there is one, as a new game in the window reads it.
+    if (std::filesystem::exists(game.AppFolder + "gamedata.dat")) {
+        game.LoadRoster();
+        return;
+    }
     for (int p = 1; p <= kRoster; ++p) {
         game.RosterName[p].clear();
         game.RosterBank[p] = 0;

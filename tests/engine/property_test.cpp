@@ -13,7 +13,7 @@ void ExpectCleanGames(int players, Policy policy, uint64_t firstSeed, int minHan
     long long hands = 0;
     int games = 0;
     for (uint64_t seed = firstSeed; hands < minHands; ++seed, ++games) {
-        GameResult r = PlayOneGame("", players, seed, policy, nullptr);
+        GameResult r = PlayOneGame(HOLDEM_ASSETS, players, seed, policy, nullptr);
         hands += r.hands;
         ASSERT_TRUE(r.violations.empty()) << "seed " << seed << ": " << r.violations.front();
         ASSERT_GT(r.hands, 0);
@@ -38,19 +38,19 @@ TEST(Property, EveryUserPolicyPlaysCleanGames) {
 }
 
 TEST(Property, SameSeedSameGame) {
-    GameResult a = PlayOneGame("", 8, 42, Policy::Rule, nullptr);
-    GameResult b = PlayOneGame("", 8, 42, Policy::Rule, nullptr);
+    GameResult a = PlayOneGame(HOLDEM_ASSETS, 8, 42, Policy::Rule, nullptr);
+    GameResult b = PlayOneGame(HOLDEM_ASSETS, 8, 42, Policy::Rule, nullptr);
     EXPECT_EQ(a.hands, b.hands);
     EXPECT_EQ(a.userPlace, b.userPlace);
     EXPECT_EQ(a.hash, b.hash);
-    GameResult c = PlayOneGame("", 8, 43, Policy::Rule, nullptr);
+    GameResult c = PlayOneGame(HOLDEM_ASSETS, 8, 43, Policy::Rule, nullptr);
     EXPECT_NE(a.hash, c.hash);
 }
 
 TEST(Property, SeededTournamentsOf80And200PlayToTheEnd) {
     for (int players : {80, 200}) {
         for (uint64_t seed : {11u, 12u}) {
-            GameResult r = PlayOneGame("", players, seed, Policy::Rule, nullptr);
+            GameResult r = PlayOneGame(HOLDEM_ASSETS, players, seed, Policy::Rule, nullptr);
             ASSERT_TRUE(r.violations.empty()) << players << " seed " << seed << ": " << r.violations.front();
             EXPECT_TRUE(r.userWon || (r.userPlace >= 2 && r.userPlace <= players));
         }
