@@ -2,6 +2,7 @@
 // leaves the game, the finish text and the pot breakdown.
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,48 +17,13 @@ namespace {
 
 TEST(SetBlinds, EveryTableAtItsBoundaries) {
     // Per size, from the top: n above the first figure plays the second.
-    const std::vector<std::pair<int16_t, std::vector<std::pair<int, int32_t>>>> tables = {
-        {8, {{6, 100}, {4, 200}, {3, 400}, {2, 600}, {0, 1000}}},
-        {80,
-         {{60, 100},
-          {50, 200},
-          {40, 400},
-          {30, 600},
-          {20, 800},
-          {10, 1000},
-          {5, 2000},
-          {3, 4000},
-          {0, 8000}}},
-        {200,
-         {{160, 100},
-          {120, 200},
-          {80, 400},
-          {60, 600},
-          {50, 800},
-          {40, 1000},
-          {30, 1500},
-          {20, 2000},
-          {10, 4000},
-          {5, 7000},
-          {3, 10000},
-          {0, 15000}}},
+    const std::pair<int16_t, const char*> tables[] = {
+        {8, "6:100 4:200 3:400 2:600 0:1000"},
+        {80, "60:100 50:200 40:400 30:600 20:800 10:1000 5:2000 3:4000 0:8000"},
+        {200, "160:100 120:200 80:400 60:600 50:800 40:1000 30:1500 20:2000 10:4000 5:7000 3:10000 0:15000"},
         {1000,
-         {{900, 100},
-          {800, 200},
-          {700, 400},
-          {600, 600},
-          {500, 800},
-          {400, 1000},
-          {300, 1500},
-          {200, 2000},
-          {100, 4000},
-          {50, 7000},
-          {30, 10000},
-          {15, 15000},
-          {7, 20000},
-          {3, 25000},
-          {0, 35000}}},
-    };
+         "900:100 800:200 700:400 600:600 500:800 400:1000 300:1500 200:2000 100:4000 50:7000 30:10000 "
+         "15:15000 7:20000 3:25000 0:35000"}};
     test::ScriptedPlatform p;
     Game g(p);
     auto blindAt = [&g](int16_t size, int n) {
@@ -67,13 +33,14 @@ TEST(SetBlinds, EveryTableAtItsBoundaries) {
         g.SetBlinds();
         return g.SmallBlind;
     };
-    for (const auto& [size, steps] : tables) {
+    for (auto [size, steps] : tables) {
         EXPECT_EQ(blindAt(size, size), 100) << size;
-        for (size_t i = 0; i < steps.size(); ++i) {
-            EXPECT_EQ(blindAt(size, steps[i].first + 1), steps[i].second) << size << " " << steps[i].first;
-            if (i + 1 < steps.size()) {
-                EXPECT_EQ(blindAt(size, steps[i].first), steps[i + 1].second);
-            }
+        std::istringstream in(steps);
+        int above = 0, previous = -1;
+        char colon = 0;
+        for (int32_t blind = 0; in >> above >> colon >> blind; previous = above) {
+            EXPECT_EQ(blindAt(size, above + 1), blind) << size << " above " << above;
+            EXPECT_EQ(previous < 0 ? blind : blindAt(size, previous), blind) << size << " at " << previous;
         }
     }
     EXPECT_EQ(blindAt(100, 3), 700);  // any other size leaves the blind as it is
@@ -129,11 +96,18 @@ protected:
         test::RankRiver(g);
         g.TimerHandOver_Timer();
     }
+    // The user and seat 2 are the last two, with the sound off: the end sounds play all the same.
+    void HeadsUp(bool userWins) {
+        Table(8, {8, 7, 6, 5, 4, 3});
+        g.view.mnuSound.checked = false;
+        g.view.cmdDeal.visible = !userWins;  // closing the game-over form hides it
+        Showdown(10000, userWins);
+    }
     // The game after the hand, in one line.
     std::string State() const {
-        std::string s = "left " + std::to_string(g.PlayersLeft) + " next " +
-                        std::to_string(g.NextFinishPlace) + " user " + std::to_string(g.UserFinishPlace) +
-                        " " + g.view.lblBlind.text;
+        std::ostringstream s;
+        s << "left " << g.PlayersLeft << " next " << g.NextFinishPlace << " user " << g.UserFinishPlace << " "
+          << g.view.lblBlind.text;
         for (auto [on, what] : {std::pair{g.view.cmdDeal.visible, " deal"},
                                 {g.view.cmdStandings.visible, " standings"},
                                 {g.view.cmdFloor.visible, " floor"},
@@ -141,10 +115,11 @@ protected:
                                 {g.view.mnuSave.enabled && g.view.mnuSaveAs.enabled, " save"},
                                 {g.GameUnsaved, " unsaved"},
                                 {g.GameEnded, " ended"}})
-            if (on) s += what;
-        for (const auto& sound : p.sounds) s += " " + sound;
-        for (int16_t place : p.gameOvers) s += " over " + std::to_string(place);
-        return s + " pauses " + std::to_string(p.pauses);
+            if (on) s << what;
+        for (const auto& sound : p.sounds) s << " " << sound;
+        for (int16_t place : p.gameOvers) s << " over " << place;
+        s << " pauses " << p.pauses;
+        return s.str();
     }
 
     test::ScriptedPlatform p;
@@ -185,21 +160,16 @@ TEST_F(EndOfHand, BustedTogetherTheUserTakesTheWorstPlace) {
 }
 
 TEST_F(EndOfHand, TheUserBustsAgainstTheLastOpponent) {
-    Table(8, {8, 7, 6, 5, 4, 3});
-    g.view.mnuSound.checked = false;  // the game-over sound plays all the same
-    g.view.cmdDeal.visible = true;
-    Showdown(10000, false);
+    HeadsUp(false);
     EXPECT_EQ(State(),
               "left 1 next 1 user 2 Blinds: $1,000 - $2,000 save unsaved ended GAMEOVER over 2 pauses 1");
-    EXPECT_EQ(g.RosterPlace[2], 0);
+    EXPECT_EQ(g.RosterPlace[2], 0);  // the last player standing has no place
 }
 
 TEST_F(EndOfHand, TheUserTakesTheLastChips) {
-    Table(8, {8, 7, 6, 5, 4, 3});
-    g.view.mnuSound.checked = false;
-    Showdown(10000, true);
+    HeadsUp(true);
     EXPECT_EQ(State(), "left 1 next 1 user 0 Blinds: $1,000 - $2,000 winner save unsaved ended WIN pauses 2");
-    EXPECT_EQ(g.RosterPlace[1] * 10 + g.RosterPlace[2], 2);
+    EXPECT_EQ(std::to_string(g.RosterPlace[1]) + " " + std::to_string(g.RosterPlace[2]), "0 2");
 }
 
 TEST_F(EndOfHand, PotBreakdownLiveThenSnapshot) {
