@@ -2,6 +2,7 @@
 // the marks of the winners, the sound, the pause and the closing check.
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -14,29 +15,25 @@ namespace {
 
 constexpr float kStart = 10000.0f;
 
-struct Stake {
-    int seat;
-    int32_t stake;
-    const char* hole = nullptr;  // "AhAd"; none for a folded seat
-};
-
 // Eight seats of 10,000 over a board that pairs nothing and draws to nothing;
-// the seats named put their stake in, the rest are out with nothing in.
+// the seats named ("2:1000:AhAd", no cards when folded) put their stake in,
+// the rest are out with nothing in.
 struct Hand {
     test::ScriptedPlatform p;
     Game g{p};
 
-    explicit Hand(const std::vector<Stake>& stakes, bool sound = true) {
+    explicit Hand(const std::string& stakes, bool sound = true) {
         test::EmptyTable(g);
         g.view.mnuSound.checked = sound;
         g.rnd.Script({});
         test::SetBoard(g, {"2c", "7d", "9h", "Js", "4s"});
         for (int s = 1; s <= kSeats; ++s) test::SeatPlayer(g, s, "P", kStart, 0, 0, false);
-        for (const Stake& st : stakes) {
-            test::SeatPlayer(g, st.seat, "P", kStart - st.stake, st.stake, 0, st.hole != nullptr);
-            if (st.hole)
-                test::SetHole(g, st.seat, std::string(st.hole, 2).c_str(),
-                              std::string(st.hole + 2, 2).c_str());
+        std::istringstream in(stakes);
+        for (std::string st; in >> st;) {
+            int seat = st[0] - '0', stake = std::stoi(st.substr(2));
+            std::string hole = st.size() > 7 && st[st.size() - 5] == ':' ? st.substr(st.size() - 4) : "";
+            test::SeatPlayer(g, seat, "P", kStart - stake, stake, 0, !hole.empty());
+            if (!hole.empty()) test::SetHole(g, seat, hole.substr(0, 2).c_str(), hole.substr(2).c_str());
         }
         test::RankRiver(g);
     }
@@ -73,45 +70,34 @@ struct Hand {
 
 TEST(SettlePots, Examples) {
     struct Row {
-        std::vector<Stake> stakes;
+        const char* stakes;
         const char* outcome;
     } rows[] = {
         // A all in with 1,000 and best, B and C 5,000: Layer1 3,000 to A, Layer2 8,000 to B.
-        {{{2, 1000, "AhAd"}, {3, 5000, "KhKd"}, {4, 5000, "QhQd"}}, "2:3,000 3:8,000 >2 LOSTHAND"},
+        {"2:1000:AhAd 3:5000:KhKd 4:5000:QhQd", "2:3,000 3:8,000 >2 LOSTHAND"},
         // The uncalled part of B's bet comes back as a payment; C folded after 300.
-        {{{2, 1000, "AhAd"}, {3, 5000, "KhKd"}, {4, 300}}, "2:2,300 3:4,000 >2 LOSTHAND"},
+        {"2:1000:AhAd 3:5000:KhKd 4:300", "2:2,300 3:4,000 >2 LOSTHAND"},
         // Odd hundreds one by one in finish order: layers of 500, 700, 800, 1,000, 1,100.
-        {{{2, 200, "AhKd"}, {3, 200, "AsKc"}, {6, 100}}, "2:300 3:200 >2 3 LOSTHAND"},
-        {{{2, 200, "AhKd"}, {3, 200, "AsKc"}, {4, 200, "AdKh"}, {6, 100}},
-         "2:300 3:200 4:200 >2 3 4 LOSTHAND"},
-        {{{2, 200, "AhKd"}, {3, 200, "AsKc"}, {4, 200, "AdKh"}, {6, 200}},
-         "2:300 3:300 4:200 >2 3 4 LOSTHAND"},
-        {{{2, 300, "AhKd"}, {3, 300, "AsKc"}, {4, 300, "AdKh"}, {6, 100}},
-         "2:400 3:300 4:300 >2 3 4 LOSTHAND"},
-        {{{2, 300, "AhKd"}, {3, 300, "AsKc"}, {4, 300, "AdKh"}, {6, 100}, {7, 100}},
-         "2:400 3:400 4:300 >2 3 4 LOSTHAND"},
+        {"2:200:AhKd 3:200:AsKc 6:100", "2:300 3:200 >2 3 LOSTHAND"},
+        {"2:200:AhKd 3:200:AsKc 4:200:AdKh 6:100", "2:300 3:200 4:200 >2 3 4 LOSTHAND"},
+        {"2:200:AhKd 3:200:AsKc 4:200:AdKh 6:200", "2:300 3:300 4:200 >2 3 4 LOSTHAND"},
+        {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100", "2:400 3:300 4:300 >2 3 4 LOSTHAND"},
+        {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100 7:100", "2:400 3:400 4:300 >2 3 4 LOSTHAND"},
         // Seat 3 best, 1 and 2 tied behind: the swap puts 2 first. A side layer is no won hand.
-        {{{1, 400, "AsKc"}, {2, 400, "AhKd"}, {3, 200, "QhQd"}, {4, 300}}, "1:200 2:300 3:800 >3 LOSTHAND"},
+        {"1:400:AsKc 2:400:AhKd 3:200:QhQd 4:300", "1:200 2:300 3:800 >3 LOSTHAND"},
         // A tie with a smaller stake: Layer1 2,700 split with its odd hundred, Layer2 whole to seat 3.
-        {{{2, 900, "AhKd"}, {3, 3000, "AsKc"}, {4, 3000, "Qh8d"}}, "2:1,400 3:5,500 >2 3 LOSTHAND"},
+        {"2:900:AhKd 3:3000:AsKc 4:3000:Qh8d", "2:1,400 3:5,500 >2 3 LOSTHAND"},
         // The best hand has the lowest stake: each layer falls to the first place that can claim it.
-        {{{2, 500, "AhAd"}, {3, 2000, "KhKd"}, {4, 4000, "QhQd"}, {5, 4000, "ThTd"}},
-         "2:2,000 3:4,500 4:4,000 >2 LOSTHAND"},
+        {"2:500:AhAd 3:2000:KhKd 4:4000:QhQd 5:4000:ThTd", "2:2,000 3:4,500 4:4,000 >2 LOSTHAND"},
         // Six stakes: chips above the fourth level are one layer, claimed by finish order.
-        {{{2, 1000, "AhAd"},
-          {3, 2000, "KhKd"},
-          {4, 3000, "QhQd"},
-          {5, 4000, "ThTd"},
-          {6, 5000, "8h8d"},
-          {7, 6000, "6h6d"}},
+        {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000:8h8d 7:6000:6h6d",
          "2:6,000 3:5,000 4:4,000 5:3,000 6:3,000 >2 LOSTHAND"},
         // Equal stakes add one level; a folded stake above them all goes to whoever is in.
-        {{{1, 2000, "AhAd"}, {2, 2000, "KhKd"}, {3, 2000, "QhQd"}, {4, 1000, "ThTd"}, {5, 3000}},
-         "1:10,000 >1 WONHAND"},
+        {"1:2000:AhAd 2:2000:KhKd 3:2000:QhQd 4:1000:ThTd 5:3000", "1:10,000 >1 WONHAND"},
         // The user folds and a side layer is all that is left to decide.
-        {{{1, 200}, {2, 500, "AhAd"}, {3, 3000, "KhKd"}, {4, 3000, "QhQd"}}, "2:1,700 3:5,000 >2 LOSTHAND"},
+        {"1:200 2:500:AhAd 3:3000:KhKd 4:3000:QhQd", "2:1,700 3:5,000 >2 LOSTHAND"},
         // A Layer5 nobody in the hand can claim leaves the table, and the closing check says so.
-        {{{2, 1000, "AhAd"}, {3, 2000, "KhKd"}, {4, 3000, "QhQd"}, {5, 4000, "ThTd"}, {6, 5000}},
+        {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000",
          "2:5,000 3:4,000 4:3,000 5:2,000 >2 LOSTHAND | Table 1: Total Pot: 15000   Total Paid: 14000 | "
          "Table "
          "Total: 79000"},
@@ -144,7 +130,7 @@ TEST(SettlePots, AllFoldToTheLargeBlind) {
 }
 
 TEST(SettlePots, ShowsTheHandsAndPausesWithTheSoundOff) {
-    Hand h({{1, 1000, "AhAd"}, {3, 5000, "KhKd"}, {4, 5000, "Qh8d"}, {6, 300}}, false);
+    Hand h("1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", false);
     h.g.SeatHandCode[6] = 61;  // ranked before it folded
     h.Settle();
     EXPECT_EQ(h.Outcome(), "1:3,300 3:8,000 >1");
