@@ -113,6 +113,9 @@ TEST(BackgroundHand, Examples) {
         // Three players all in: the button acts first and calls short; the shortest wins the main pot.
         {"100 100 200", 0, "1:AhAs 2:7d2c 3:8h2s", "snnnn",
          "button 1 blinds 2/3 known 7 | 300 0 100 0 0 0 0 0 | 1:100 2:100 3:200"},
+        // An all-in seat first after the button still opens each street, with a check.
+        {"10000 100 10000", 0, "2:AhAs 1:7d2c 3:8h2s", "snnnnnnnnnn",
+         "button 1 blinds 2/3 known 7 | 9900 300 9900 0 0 0 0 0 | 1:200 2:100 3:200"},
         // A short large blind: callers pay the full 200 and get 50 back.
         {"10000 10000 150", 0, "3:AhAs 1:7d2c 2:8h2s", "snsnnnnnnn",
          "button 1 blinds 2/3 known 7 | 9850 9850 450 0 0 0 0 0 | 1:200 2:200 3:150"},
@@ -166,15 +169,17 @@ TEST(BackgroundTables, EveryTableFromTwoUpPlaysOnce) {
     test::ScriptedPlatform p;
     Game g(p);
     g.SmallBlind = 100;
-    // Tables 2 and 3 hold one player each and sit out; table 4 holds two.
-    for (int pos :
-         {1, RosterPosition(2, 5), RosterPosition(3, 1), RosterPosition(4, 1), RosterPosition(4, 2)})
+    // Tables 2 and 4 hold two players each; table 3 one, who sits out and draws nothing.
+    for (int pos : {1, RosterPosition(2, 1), RosterPosition(2, 5), RosterPosition(3, 1), RosterPosition(4, 1),
+                    RosterPosition(4, 2)})
         g.RosterBank[pos] = 10000;
     g.TablesInPlay = 4;
-    g.rnd.Script(test::Draws({std::vector<float>(52, 0.0f), std::vector<float>(6, kNo)}));
+    std::vector<float> hand(52, 0.0f);
+    hand.resize(58, kNo);
+    g.rnd.Script(test::Draws({hand, hand}));
     g.PlayOtherTables();
-    EXPECT_EQ(g.TableButton[2] + g.TableButton[3], 0);
-    EXPECT_EQ(g.TableButton[4], 1);
+    EXPECT_EQ(std::vector<int>({g.TableButton[2], g.TableButton[3], g.TableButton[4]}),
+              std::vector<int>({1, 0, 1}));
     EXPECT_EQ(g.RosterBank[RosterPosition(4, 1)] + g.RosterBank[RosterPosition(4, 2)], 20000);
     EXPECT_EQ(g.rnd.Remaining() + g.rnd.Overdrawn(), 0u);
     g.TablesInPlay = 1;  // a single table: nothing plays, nothing is drawn
