@@ -1,11 +1,10 @@
-// Small helpers of the field-view tests: stnd.dat files written in the game's
-// format, and screenshots of a form.
+// Helpers of the field-view tests: stnd.dat files in the game's format, and
+// screenshots of a form.
 #pragma once
 
 #include <QColor>
 #include <QDir>
 #include <QPalette>
-#include <QString>
 #include <QTemporaryDir>
 #include <QWidget>
 #include <fstream>
@@ -17,16 +16,13 @@ namespace holdem::test {
 struct StndRecord {
     int tag = 0;
     std::string name;
-    int bank = 0;
-    int place = 0;
-    int number = 0;
+    int bank = 0, place = 0, number = 0;
 };
 
-// Writes a header "count,HandsPlayed,ButtonSeat,SmallBlind" and one line per
-// record, each ending in CR LF, and returns the path.
+// The header "count,12,3,200", then one line per record; returns the path.
 inline std::string WriteStnd(const QTemporaryDir& dir, const std::vector<StndRecord>& records, int count = -1,
-                             const std::string& name = "stnd.dat") {
-    std::string path = dir.filePath(QString::fromStdString(name)).toStdString();
+                             const QString& name = "stnd.dat") {
+    const std::string path = dir.filePath(name).toStdString();
     std::ofstream out(path, std::ios::binary);
     out << (count < 0 ? static_cast<int>(records.size()) : count) << ",12,3,200\r\n";
     for (const StndRecord& r : records)
@@ -34,8 +30,7 @@ inline std::string WriteStnd(const QTemporaryDir& dir, const std::vector<StndRec
     return path;
 }
 
-// A field of n players still in, 10,000 each, numbered by position; the user
-// is number 1 at position 1.
+// n players still in with 10,000 each, numbered by position; the user is 1.
 inline std::vector<StndRecord> EvenField(int n) {
     std::vector<StndRecord> field;
     for (int p = 1; p <= n; ++p)
@@ -47,7 +42,7 @@ inline QColor TextColour(const QWidget* w) {
     return w->palette().color(QPalette::Active, QPalette::WindowText);
 }
 
-// Saves the form as a picture beside the test programs, to be looked at.
+// Saved beside the test programs, to be looked at.
 inline bool SaveScreenshot(QWidget& form, const QString& name) {
     return form.grab().save(QDir::current().filePath(name + ".png"));
 }

@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QMenu>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "tests/support/scripted_platform.h"
@@ -17,62 +16,34 @@ namespace {
 // Notes what the window shows at the moment each form opens.
 class StartPlatform : public test::ScriptedPlatform {
 public:
-    struct Seen {
-        InfoForm form;
-        bool windowVisible, tipsChecked;
-        std::string standingsPath;
-    };
     void ShowInfo(InfoForm form) override {
         ScriptedPlatform::ShowInfo(form);
         seen.push_back({form, window->isVisible(), window->mnuTips->isChecked(), window->game.StandingsPath});
     }
     frmMain* window = nullptr;
-    std::vector<Seen> seen;
+    std::vector<std::tuple<InfoForm, bool, bool, std::string>> seen;  // form, window shown, tips mark, path
 };
 
 QByteArray ReadAll(const QString& path) {
     QFile f(path);
-    if (!f.open(QIODevice::ReadOnly)) return {};
-    return f.readAll();
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
-
 void WriteAll(const QString& path, const QByteArray& bytes) {
     QFile f(path);
     QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
     f.write(bytes);
 }
 
-// A game in play that has something unsaved: the exit question applies.
-void GameInPlay(Game& game) {
-    game.TournamentSize = 8;
-    for (int s = 1; s <= kSeats; ++s) {
-        game.RosterName[s] = "P" + std::to_string(s);
-        game.RosterNumber[s] = static_cast<int16_t>(s);
-        game.RosterBank[s] = 10000;
-    }
-    game.RosterBank[1] = 5000;
-    game.HandsPlayed = 2;
-    game.GameUnsaved = true;
-    game.GameEnded = false;
-    game.PlayersLeft = 8;
-    game.ButtonSeat = 3;
-    game.SmallBlind = 100;
-}
-
 }  // namespace
 
 class WindowStartExitTest : public QObject {
     Q_OBJECT
-
     std::unique_ptr<QTemporaryDir> dir_;
     QString Settings() { return dir_->filePath("settings.dft"); }
     std::string Folder() { return dir_->path().toStdString() + "/"; }
 
 private slots:
-    void init() {
-        dir_ = std::make_unique<QTemporaryDir>();
-        QVERIFY(dir_->isValid());
-    }
+    void init() { dir_ = std::make_unique<QTemporaryDir>(); }
 
     void startsInItsOrderWithSplashThenTip() {
         WriteAll(Settings(), "1,#FALSE#,#TRUE#\r\n");
@@ -81,104 +52,90 @@ private slots:
         platform.window = &w;
         QVERIFY(!w.isVisible());
         w.Start();
-
-        QCOMPARE(w.game.AppFolder, Folder());
-        QCOMPARE(w.game.StandingsPath, Folder() + "stnd.dat");
-        QCOMPARE(w.game.GameSpeed, int16_t(1));
-        QVERIFY(w.mnuFastSpeed->isChecked() && !w.mnuMediumSpeed->isChecked() &&
-                !w.mnuSlowSpeed->isChecked());
+        QCOMPARE(std::make_tuple(w.game.AppFolder, w.game.StandingsPath, w.game.GameSpeed),
+                 std::make_tuple(Folder(), Folder() + "stnd.dat", int16_t(1)));
+        QVERIFY(w.mnuFastSpeed->isChecked() && !w.mnuMediumSpeed->isChecked() && !w.mnuSound->isChecked() &&
+                w.mnuTips->isChecked());
         QCOMPARE(w.game.view.timer[TimerBetHole].interval, 800);
-        QVERIFY(!w.mnuSound->isChecked());
-        QVERIFY(w.mnuTips->isChecked());
-        // The splash comes over the shown window, with the standings path and
-        // the tip's mark already set; the tip follows it.
-        QCOMPARE(platform.seen.size(), size_t(2));
-        QCOMPARE(platform.seen[0].form, InfoForm::Splash);
-        QVERIFY(platform.seen[0].windowVisible);
-        QVERIFY(platform.seen[0].tipsChecked);
-        QCOMPARE(platform.seen[0].standingsPath, Folder() + "stnd.dat");
-        QCOMPARE(platform.seen[1].form, InfoForm::Tip);
-        QCOMPARE(w.picTableMoney->size(), QSize(755, 510));
-        QVERIFY(w.picTableMoney->isHidden());
-
+        // The splash comes over the shown window with the path and the tip's mark set; the tip follows.
+        QCOMPARE(platform.seen, (std::vector<std::tuple<InfoForm, bool, bool, std::string>>{
+                                    {InfoForm::Splash, true, true, Folder() + "stnd.dat"},
+                                    {InfoForm::Tip, true, true, Folder() + "stnd.dat"}}));
         // An empty table waits: nothing runs and nothing is dealt.
         for (QTimer* t : w.timers) QVERIFY(!t->isActive());
-        QVERIFY(w.cmdDeal->isHidden() && w.cmdPlay[1]->isHidden());
-        QVERIFY(w.lblName[1]->isHidden());
-        QVERIFY(!w.mnuSave->isEnabled() && !w.mnuSaveAs->isEnabled());
-        QVERIFY(w.mnuNew->isEnabled() && w.mnuOpen->isEnabled() && w.mnuStandings->isEnabled());
+        QVERIFY(w.cmdDeal->isHidden() && w.cmdPlay[1]->isHidden() && w.lblName[1]->isHidden() &&
+                w.picTableMoney->isHidden());
+        QVERIFY(!w.mnuSave->isEnabled() && !w.mnuSaveAs->isEnabled() && w.mnuNew->isEnabled() &&
+                w.mnuOpen->isEnabled());
         QCOMPARE(w.windowTitle(), QString("Texas Hold'em"));
         QCOMPARE(w.centralWidget()->size(), QSize(755, 508));
-    }
+        QCOMPARE(w.picTableMoney->size(), QSize(755, 510));
 
-    void noTipWhenSwitchedOff() {
-        WriteAll(Settings(), "3,#TRUE#,#FALSE#\r\n");
-        StartPlatform platform;
-        frmMain w(Folder(), &platform);
-        platform.window = &w;
-        w.Start();
-        QCOMPARE(platform.infos, std::vector<InfoForm>{InfoForm::Splash});
-        QVERIFY(w.mnuSlowSpeed->isChecked() && w.mnuSound->isChecked() && !w.mnuTips->isChecked());
-        QVERIFY(!platform.seen[0].tipsChecked);
+        WriteAll(Settings(), "3,#TRUE#,#FALSE#\r\n");  // no tip when switched off
+        StartPlatform quiet;
+        frmMain q(Folder(), &quiet);
+        quiet.window = &q;
+        q.Start();
+        QCOMPARE(quiet.infos, std::vector<InfoForm>{InfoForm::Splash});
+        QVERIFY(q.mnuSlowSpeed->isChecked() && q.mnuSound->isChecked() && !q.mnuTips->isChecked());
     }
 
     void menuCaptionsAndShortcuts() {
         test::ScriptedPlatform platform;
         frmMain w(Folder(), &platform);
-        QCOMPARE(w.mnuFile->title(), QString("&File"));
-        QCOMPARE(w.mnuNew->text(), QString("&New..."));
-        QCOMPARE(w.mnuNew->shortcut(), QKeySequence("Ctrl+N"));
-        QCOMPARE(w.mnuOpen->shortcut(), QKeySequence("Ctrl+O"));
-        QCOMPARE(w.mnuSave->shortcut(), QKeySequence("Ctrl+S"));
-        QCOMPARE(w.mnuSaveAs->text(), QString("Save &As"));
-        QCOMPARE(w.mnuExit->text(), QString("E&xit"));
-        QCOMPARE(w.mnuTourney->title(), QString("&Tourney"));
-        QCOMPARE(w.mnuFloor->text(), QString("&View Floor"));
-        QCOMPARE(w.mnuSpeed->title(), QString("&Speed..."));
-        QCOMPARE(w.mnuTips->text(), QString("&Tip of the Day"));
-        QCOMPARE(w.mnuHelpIndex->text(), QString("Help"));
-        QCOMPARE(w.mnuHelpIndex->shortcut(), QKeySequence("F1"));
-        QCOMPARE(w.mnuRules->text(), QString("Hold'em &Rules"));
-        QCOMPARE(w.mnuAbout->text(), QString("A&bout"));
-        QCOMPARE(w.cmdPlay[3]->text(), QString("&Bet/Raise "));
-        QCOMPARE(w.cmdFloor->text(), QString("&View Floor"));
+        QStringList captions;
+        for (QMenu* m : {w.mnuFile, w.mnuTourney, w.mnuSpeed}) captions << m->title();
+        for (QAction* a : {w.mnuNew, w.mnuSaveAs, w.mnuExit, w.mnuFloor, w.mnuTips, w.mnuHelpIndex,
+                           w.mnuRules, w.mnuAbout})
+            captions << a->text();
+        captions << w.cmdPlay[3]->text() << w.cmdFloor->text();
+        QCOMPARE(captions, QStringList({"&File", "&Tourney", "&Speed...", "&New...", "Save &As", "E&xit",
+                                        "&View Floor", "&Tip of the Day", "Help", "Hold'em &Rules", "A&bout",
+                                        "&Bet/Raise ", "&View Floor"}));
+        QCOMPARE((QList<QKeySequence>{w.mnuNew->shortcut(), w.mnuOpen->shortcut(), w.mnuSave->shortcut(),
+                                      w.mnuHelpIndex->shortcut()}),
+                 (QList<QKeySequence>{QKeySequence("Ctrl+N"), QKeySequence("Ctrl+O"), QKeySequence("Ctrl+S"),
+                                      QKeySequence("F1")}));
         // Before any settings: medium, sound on, tips on.
         QVERIFY(w.mnuMediumSpeed->isChecked() && w.mnuSound->isChecked() && w.mnuTips->isChecked());
-        w.mnuHelpIndex->trigger();
-        w.mnuRules->trigger();
-        w.mnuAbout->trigger();
+        for (QAction* a : {w.mnuHelpIndex, w.mnuRules, w.mnuAbout}) a->trigger();
         QCOMPARE(platform.infos, (std::vector<InfoForm>{InfoForm::Help, InfoForm::Rules, InfoForm::About}));
     }
 
-    // Which exits ask, by the way out and the state of the game.
-    void theExitQuestionAndItsTwoTests_data() {
+    // Which exits ask, by the way out and the state of the game, and what each answer does.
+    void theExitQuestion_data() {
         QTest::addColumn<bool>("closeBox");
         QTest::addColumn<int>("userBank");
         QTest::addColumn<int>("hands");
         QTest::addColumn<bool>("unsaved");
         QTest::addColumn<bool>("ended");
         QTest::addColumn<int>("left");
+        QTest::addColumn<int>("answer");
         QTest::addColumn<bool>("asks");
-        QTest::newRow("menu, game in play") << false << 5000 << 2 << true << false << 8 << true;
-        QTest::newRow("box, game in play") << true << 5000 << 2 << true << false << 8 << true;
-        QTest::newRow("menu, one hand only") << false << 5000 << 1 << true << false << 8 << false;
-        QTest::newRow("box, one hand only") << true << 5000 << 1 << true << false << 8 << false;
-        QTest::newRow("menu, saved") << false << 5000 << 5 << false << false << 8 << false;
-        QTest::newRow("box, user busted") << true << 0 << 5 << true << true << 8 << false;
+        const int no = int(MsgAnswer::No), yes = int(MsgAnswer::Yes), cancel = int(MsgAnswer::Cancel);
+        QTest::newRow("menu, in play") << false << 5000 << 2 << true << false << 8 << no << true;
+        QTest::newRow("box, in play") << true << 5000 << 2 << true << false << 8 << no << true;
+        QTest::newRow("menu, one hand only") << false << 5000 << 1 << true << false << 8 << no << false;
+        QTest::newRow("box, one hand only") << true << 5000 << 1 << true << false << 8 << no << false;
+        QTest::newRow("menu, saved") << false << 5000 << 5 << false << false << 8 << no << false;
+        QTest::newRow("box, user busted") << true << 0 << 5 << true << true << 8 << no << false;
         // The two ways test different fields.
-        QTest::newRow("menu, ended, players left") << false << 5000 << 5 << true << true << 8 << false;
-        QTest::newRow("box, ended, players left") << true << 5000 << 5 << true << true << 8 << true;
-        QTest::newRow("menu, won, one left") << false << 80000 << 5 << true << false << 1 << true;
-        QTest::newRow("box, won, one left") << true << 80000 << 5 << true << false << 1 << false;
+        QTest::newRow("menu, ended, players left") << false << 5000 << 5 << true << true << 8 << no << false;
+        QTest::newRow("box, ended, players left") << true << 5000 << 5 << true << true << 8 << no << true;
+        QTest::newRow("menu, won, one left") << false << 80000 << 5 << true << false << 1 << no << true;
+        QTest::newRow("box, won, one left") << true << 80000 << 5 << true << false << 1 << no << false;
+        QTest::newRow("menu, cancel") << false << 5000 << 2 << true << false << 8 << cancel << true;
+        QTest::newRow("box, cancel") << true << 5000 << 2 << true << false << 8 << cancel << true;
+        QTest::newRow("menu, yes") << false << 5000 << 2 << true << false << 8 << yes << true;
     }
-
-    void theExitQuestionAndItsTwoTests() {
+    void theExitQuestion() {
         QFETCH(bool, closeBox);
         QFETCH(int, userBank);
         QFETCH(int, hands);
         QFETCH(bool, unsaved);
         QFETCH(bool, ended);
         QFETCH(int, left);
+        QFETCH(int, answer);
         QFETCH(bool, asks);
         WriteAll(Settings(), "2,#TRUE#,#TRUE#\r\n");
         test::ScriptedPlatform platform;
@@ -186,75 +143,42 @@ private slots:
         int quits = 0;
         w.onQuit = [&quits] { ++quits; };
         w.Start();
-        GameInPlay(w.game);
-        w.game.RosterBank[1] = userBank;
-        w.game.HandsPlayed = static_cast<int16_t>(hands);
-        w.game.GameUnsaved = unsaved;
-        w.game.GameEnded = ended;
-        w.game.PlayersLeft = static_cast<int16_t>(left);
-        // The settings of the run are written on the way out.
-        w.mnuSlowSpeed->trigger();
-        platform.answers.push_back(MsgAnswer::No);
-
+        Game& g = w.game;
+        g.TournamentSize = 8;
+        for (int s = 1; s <= kSeats; ++s) {
+            g.RosterName[s] = "P" + std::to_string(s);
+            g.RosterNumber[s] = static_cast<int16_t>(s);
+            g.RosterBank[s] = s == 1 ? userBank : 10000;
+        }
+        g.HandsPlayed = static_cast<int16_t>(hands);
+        g.GameUnsaved = unsaved;
+        g.GameEnded = ended;
+        g.PlayersLeft = static_cast<int16_t>(left);
+        g.ButtonSeat = 3;
+        g.SmallBlind = 100;
+        w.mnuSlowSpeed->trigger();  // the settings of the run are written on the way out
+        platform.answers.push_back(MsgAnswer(answer));
+        platform.savePaths.push_back(dir_->filePath("mine.sgf").toStdString());
+        const bool leaves = !(asks && answer == int(MsgAnswer::Cancel));
         if (closeBox)
             w.close();
         else
-            QVERIFY(w.mnuExit_Click());
+            QCOMPARE(w.mnuExit_Click(), leaves);
 
-        QCOMPARE(platform.messages.size(), size_t(asks ? 1 : 0));
+        QCOMPARE(platform.messages.size(), size_t(asks));
         if (asks) {
-            QCOMPARE(platform.messages[0].text, std::string("Do you want to save the current game?"));
-            QCOMPARE(platform.messages[0].title, std::string("Exit"));
-            QCOMPARE(platform.messages[0].icon, MsgIcon::Information);
-            QCOMPARE(platform.messages[0].buttons, MsgButtons::YesNoCancel);
+            const auto& m = platform.messages[0];
+            QCOMPARE(std::make_tuple(m.text, m.title, m.icon, m.buttons),
+                     std::make_tuple(std::string("Do you want to save the current game?"),
+                                     std::string("Exit"), MsgIcon::Information, MsgButtons::YesNoCancel));
         }
-        QVERIFY(platform.saveDialogs.empty());
-        QCOMPARE(quits, 1);
-        QVERIFY(!w.isVisible());
-        QVERIFY(ReadAll(Settings()).startsWith("3,"));
-    }
-
-    void cancelGoesBackOnBothWays() {
-        const QByteArray before = "2,#TRUE#,#TRUE#\r\n";
-        for (bool closeBox : {false, true}) {
-            WriteAll(Settings(), before);
-            test::ScriptedPlatform platform;
-            frmMain w(Folder(), &platform);
-            int quits = 0;
-            w.onQuit = [&quits] { ++quits; };
-            w.Start();
-            GameInPlay(w.game);
-            w.mnuFastSpeed->trigger();
-            platform.answers.push_back(MsgAnswer::Cancel);
-            if (closeBox)
-                w.close();
-            else
-                QVERIFY(!w.mnuExit_Click());
-            QCOMPARE(platform.messages.size(), size_t(1));
-            QCOMPARE(quits, 0);
-            QVERIFY(w.isVisible());
-            QCOMPARE(ReadAll(Settings()), before);
-            QVERIFY(w.game.GameUnsaved);
-        }
-    }
-
-    void yesSavesTheGameThenLeaves() {
-        WriteAll(Settings(), "2,#TRUE#,#TRUE#\r\n");
-        test::ScriptedPlatform platform;
-        frmMain w(Folder(), &platform);
-        int quits = 0;
-        w.onQuit = [&quits] { ++quits; };
-        w.Start();
-        GameInPlay(w.game);
-        const QString saved = dir_->filePath("mine.sgf");
-        platform.answers.push_back(MsgAnswer::Yes);
-        platform.savePaths.push_back(saved.toStdString());
-        QVERIFY(w.mnuExit_Click());
-        QCOMPARE(platform.saveDialogs.size(), size_t(1));
-        QCOMPARE(platform.saveDialogs[0].title, std::string("Save Game As"));
-        QVERIFY(ReadAll(saved).startsWith("8,2,3,100"));
-        QVERIFY(!w.game.GameUnsaved);
-        QCOMPARE(quits, 1);
+        const bool saves = asks && answer == int(MsgAnswer::Yes);
+        QCOMPARE(platform.saveDialogs.size(), size_t(saves));
+        QCOMPARE(ReadAll(dir_->filePath("mine.sgf")).startsWith("8," + QByteArray::number(hands) + ",3,100"),
+                 saves);
+        QCOMPARE(std::make_tuple(quits, w.isVisible(), g.GameUnsaved),
+                 std::make_tuple(int(leaves), !leaves, unsaved && !saves));
+        QCOMPARE(ReadAll(Settings()).left(2), QByteArray(leaves ? "3," : "2,"));
     }
 };
 
