@@ -250,7 +250,7 @@ private slots:
         QVERIFY(form.lblSeatData->isVisible());
         QCOMPARE(form.lblSeatData->text(), QString("#66 Maximiliano Fitzgerald   $10,000"));
         QCOMPARE(form.sSeat[66]->colour(), QColor(255, 255, 255));
-        QCOMPARE(form.lblSeatData->geometry().topLeft(), QPoint(Px(1680 + 25), Px(3960 - 250)));
+        QCOMPARE(form.lblSeatData->geometry().topLeft(), QPoint(kit::Px(1680 + 25), kit::Px(3960 - 250)));
         QVERIFY(form.lblSeatData->width() >
                 QFontMetrics(form.lblSeatData->font()).horizontalAdvance(form.lblSeatData->text()));
         QVERIFY(holdem::test::SaveScreenshot(form, "fieldviews_floor_click"));
@@ -276,7 +276,7 @@ private slots:
         QTest::mouseClick(form.sSeat[200], Qt::LeftButton);
         QVERIFY(form.lblSeatData->isVisible());
         QVERIFY(form.lblSeatData->geometry().right() < form.width());
-        QCOMPARE(form.lblSeatData->y(), Px(1080 + 4 * 960 - 250));
+        QCOMPARE(form.lblSeatData->y(), kit::Px(1080 + 4 * 960 - 250));
         QVERIFY(holdem::test::SaveScreenshot(form, "fieldviews_floor_edge"));
     }
 };

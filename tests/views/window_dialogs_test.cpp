@@ -238,6 +238,7 @@ private slots:
     void splashClosesAtTheSecondTickOrAKey() {
         const std::string folder = QCoreApplication::applicationDirPath().toStdString() + "/";
         frmSplash timed(folder);
+        QVERIFY(!timed.timerSplash->isActive());  // not before it can be seen
         timed.show();
         QCOMPARE(timed.lblVersion->text(), QString("Version 1.1"));
         QCOMPARE(timed.lblCompanyProduct->text(), QString("Corvane"));
