@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <string>
 
-#include "views/form_kit.h"
+#include "views/view_kit.h"
 
 class QLabel;
 
@@ -22,7 +22,7 @@ public:
     QLabel* Label1 = nullptr;
     QLabel* lblDescription = nullptr;
     QLabel* lblDisclaimer = nullptr;
-    ClickLabel* lblOK = nullptr;
+    kit::ClickLabel* lblOK = nullptr;
 };
 
 }  // namespace holdem

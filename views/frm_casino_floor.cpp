@@ -6,6 +6,8 @@
 
 namespace holdem {
 
+using namespace kit;
+
 namespace {
 
 QColor ToQColor(Rgb c) { return QColor(c.r, c.g, c.b); }
@@ -13,17 +15,8 @@ QColor ToQColor(Rgb c) { return QColor(c.r, c.g, c.b); }
 QLabel* MakeText(QWidget* parent, const QString& text, QRect box, bool bold, Qt::Alignment align) {
     auto* label = new QLabel(text, parent);
     label->setGeometry(box);
-    label->setFont(SansFont(8, bold));
+    label->setFont(Sans(8, bold));
     label->setAlignment(align | Qt::AlignVCenter);
-    SetTextColour(label, Qt::white);
-    return label;
-}
-
-ClickLabel* MakeButtonLabel(QWidget* parent, const QString& text, QRect box) {
-    auto* label = new ClickLabel(text, parent);
-    label->setGeometry(box);
-    label->setFont(SansFont(8));
-    label->setAlignment(Qt::AlignCenter);
     SetTextColour(label, Qt::white);
     return label;
 }
@@ -59,12 +52,12 @@ frmCasinoFloor::frmCasinoFloor(const std::string& standingsPath, QWidget* parent
     lblRoom = MakeText(this, "Room: ", TwipsRect(3240, 720, 870, 240), true, Qt::AlignHCenter);
     BuildRoom();
     BuildLegend();
-    lblPrevious = MakeButtonLabel(this, "[PREVIOUS]", TwipsRect(4440, 6120, 945, 195));
-    lblNext = MakeButtonLabel(this, "[NEXT]", TwipsRect(5520, 6120, 555, 195));
-    lblClose = MakeButtonLabel(this, "[CLOSE]", TwipsRect(6600, 6120, 645, 195));
+    lblPrevious = MakeClickLabel(this, "[PREVIOUS]", TwipsRect(4440, 6120, 945, 195), Sans(8), Qt::white);
+    lblNext = MakeClickLabel(this, "[NEXT]", TwipsRect(5520, 6120, 555, 195), Sans(8), Qt::white);
+    lblClose = MakeClickLabel(this, "[CLOSE]", TwipsRect(6600, 6120, 645, 195), Sans(8), Qt::white);
 
     lblSeatData = new QLabel(this);
-    lblSeatData->setFont(SansFont(8));
+    lblSeatData->setFont(Sans(8));
     lblSeatData->setAlignment(Qt::AlignCenter);
     lblSeatData->setFrameStyle(QFrame::Box | QFrame::Plain);
     lblSeatData->setLineWidth(1);
@@ -93,7 +86,7 @@ void frmCasinoFloor::BuildRoom() {
         sTable[t]->setGeometry(BoxRect(table));
         lblTable[t] = MakeText(this, QString(), TwipsRect(table.left + 465, table.top + 165, 165, 240), true,
                                Qt::AlignHCenter);
-        FitCentred(lblTable[t], "125");
+        GrowToText(lblTable[t], "125");
     }
     for (int s = 1; s <= kRoomSeats; ++s) {
         sSeat[s] = new ColourShape(false, this);

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "views/floor_model.h"
-#include "views/form_kit.h"
+#include "views/view_kit.h"
 
 class QLabel;
 
@@ -22,14 +22,14 @@ public:
 
     QLabel* lblPlayers = nullptr;
     QLabel* lblRoom = nullptr;
-    std::array<ColourShape*, kRoomTables + 1> sTable{};
+    std::array<kit::ColourShape*, kRoomTables + 1> sTable{};
     std::array<QLabel*, kRoomTables + 1> lblTable{};
-    std::array<ColourShape*, kRoomSeats + 1> sSeat{};
-    std::array<ColourShape*, 4> sSeatLegend{};
+    std::array<kit::ColourShape*, kRoomSeats + 1> sSeat{};
+    std::array<kit::ColourShape*, 4> sSeatLegend{};
     std::array<QLabel*, 5> Legend{};
-    ClickLabel* lblPrevious = nullptr;
-    ClickLabel* lblNext = nullptr;
-    ClickLabel* lblClose = nullptr;
+    kit::ClickLabel* lblPrevious = nullptr;
+    kit::ClickLabel* lblNext = nullptr;
+    kit::ClickLabel* lblClose = nullptr;
     QLabel* lblSeatData = nullptr;
 
 private:

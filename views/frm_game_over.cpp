@@ -23,11 +23,8 @@ frmGameOver::frmGameOver(int16_t userFinishPlace, QWidget* parent)
     kit::StyleLabel(lblFinished, kit::Sans(12, true), kLightGrey, Qt::AlignCenter);
     kit::Place(lblFinished, {480, 1080, 3540, 285});
 
-    lblClose = new kit::ClickLabel(QStringLiteral("[CLOSE]"), this);
-    kit::StyleLabel(lblClose, kit::Sans(8.25), kLightGrey, Qt::AlignRight | Qt::AlignVCenter);
-    kit::Place(lblClose, {3960, 1680, 615, 195});
-    kit::GrowToText(lblClose);
-    lblClose->setCursor(Qt::PointingHandCursor);
+    lblClose = kit::MakeClickLabel(this, QStringLiteral("[CLOSE]"), kit::TwipsRect(3960, 1680, 615, 195),
+                                   kit::Sans(8.25), kLightGrey, Qt::AlignRight);
     connect(lblClose, &kit::ClickLabel::clicked, this, &QDialog::accept);
 }
 

@@ -9,8 +9,8 @@ constexpr PictureBookLayout kHelpLayout{
     .width = 6285, .height = 7875,
     .pageLeft = 120, .pageTop = 120, .pageWidth = 6015, .pageHeight = 7095,
     .buttonTop = 7440, .previousLeft = 2640, .nextLeft = 3720, .closeLeft = 4800,
-    .firstPicture = "pictures/help1.png",
-    .secondPicture = "pictures/help2.png",
+    .firstPicture = "help1.png",
+    .secondPicture = "help2.png",
 };
 // clang-format on
 }  // namespace

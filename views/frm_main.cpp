@@ -6,12 +6,15 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QThread>
 #include <QTimer>
+#include <algorithm>
 
 #include "views/qt_platform.h"
 
@@ -29,6 +32,7 @@ constexpr QSize kWinnerPanel(755, 510);
 const QColor kBehindTable(0, 64, 0);
 const QColor kBetColour(192, 192, 0);
 const QColor kUserNameColour(255, 255, 0);
+QFont NameFont() { return kit::Sans(9.75, true); }
 constexpr int kPauseMs = 1000;
 
 struct SeatLayout {
@@ -120,6 +124,18 @@ const SeatLayout kSeatLayout[9] = {
      {9315, 5760, 615, 195},
      Qt::AlignHCenter},
 };
+
+// Most name boxes are as wide as the name plates of the table picture; the
+// narrower ones take that width too, and a box is trimmed evenly at both
+// ends to stay inside the window, so its name stays centred where it was.
+constexpr int kNamePlateTwips = 2175;
+QRect NameBox(const Twips& place) {
+    QRect box = kit::ToPixels(place);
+    int centre2 = 2 * box.left() + box.width();  // twice the centre, in pixels
+    int width = std::max(box.width(), kit::Px(kNamePlateTwips));
+    width = std::min({width, centre2, 2 * kClientSize.width() - centre2});
+    return QRect((centre2 - width) / 2, box.top(), width, box.height());
+}
 
 // Arrows of seats 2, 3 and 4 point left, towards their cards.
 bool ArrowPointsLeft(int seat) { return seat >= 2 && seat <= 4; }
@@ -294,9 +310,9 @@ void frmMain::BuildSeat(int s, QWidget* client) {
     kit::Place(iButton[s], at.button);
 
     lblName[s] = new QLabel(client);
-    kit::StyleLabel(lblName[s], kit::Sans(9.75, true), s == 1 ? kUserNameColour : QColor(Qt::white),
+    kit::StyleLabel(lblName[s], NameFont(), s == 1 ? kUserNameColour : QColor(Qt::white),
                     Qt::AlignHCenter | Qt::AlignTop);
-    kit::Place(lblName[s], at.name);
+    lblName[s]->setGeometry(NameBox(at.name));
 
     lblBankDollarSign[s] = new QLabel(client);
     kit::StyleLabel(lblBankDollarSign[s], kit::Sans(8.25, true), Qt::white, Qt::AlignRight | Qt::AlignTop);
@@ -323,14 +339,14 @@ void frmMain::BuildMiddle(QWidget* client) {
     lblPot = new kit::ClickLabel(client);
     kit::StyleLabel(lblPot, kit::Sans(13.5), Qt::white, Qt::AlignLeft | Qt::AlignTop);
     autoSized_.push_back({lblPot, kit::ToPixels(kPot)});
-    for (kit::ClickLabel* pot : {lblPot, lblPotLabel}) pot->setCursor(Qt::PointingHandCursor);
     connect(lblPot, &kit::ClickLabel::clicked, this, [this] { Call([this] { game.lblPot_Click(); }); });
     connect(lblPotLabel, &kit::ClickLabel::clicked, this,
             [this] { Call([this] { game.lblPotLabel_Click(); }); });
 
     lblBlind = new QLabel(client);
     kit::StyleLabel(lblBlind, kit::Sans(9.75, true), Qt::white, Qt::AlignLeft | Qt::AlignTop);
-    kit::Place(lblBlind, kBlind);
+    // The large blinds of a long tournament run past the box.
+    autoSized_.push_back({lblBlind, kit::ToPixels(kBlind)});
 
     lblGoodLuck = new QLabel(client);
     kit::StyleLabel(lblGoodLuck, kit::Face(kit::kDisplayFace, 24), Qt::white, Qt::AlignCenter);
@@ -448,6 +464,7 @@ void frmMain::RedrawWidgets() {
     const View& v = game.view;
     for (int s = 1; s <= kSeats; ++s) {
         DrawLabel(lblName[s], v.lblName[s]);
+        kit::FitFontToWidth(lblName[s], NameFont());
         DrawLabel(lblBankDollarSign[s], v.lblBankDollarSign[s]);
         DrawLabel(lblBank[s], v.lblBank[s]);
         DrawLabel(lblBet[s], v.lblBet[s]);
@@ -562,6 +579,10 @@ void frmMain::Start() {
         game.view.mnuSound.checked = game.SoundOn;
     });
     game.StandingsPath = game.AppFolder + "stnd.dat";
+    // In the middle of the screen, so that the splash and the forms that
+    // centre on the window come up where it is.
+    if (QScreen* screen = QGuiApplication::primaryScreen())
+        move(screen->availableGeometry().center() - rect().center());
     show();
     game.view.mnuTips.checked = game.TipsAtStartup;
     Redraw();

@@ -45,11 +45,7 @@ frmNewGame::frmNewGame(int16_t gameSpeed, QWidget* parent)
     connect(cbGameType, &QComboBox::currentTextChanged, this, [this] { cbGameType_Click(); });
 
     auto button = [this](const QString& caption, const kit::Twips& place) {
-        auto* l = new kit::ClickLabel(caption, this);
-        kit::StyleLabel(l, kit::Sans(9.75, true), Qt::white, Qt::AlignCenter);
-        l->setCursor(Qt::PointingHandCursor);
-        Place(l, place);
-        return l;
+        return kit::MakeClickLabel(this, caption, kit::ToPixels(place), kit::Sans(9.75, true), Qt::white);
     };
     lblOK = button(QStringLiteral("[OK]"), {1320, 2040, 855, 300});
     lblCancel = button(QStringLiteral("[CANCEL]"), {2520, 2040, 1095, 300});

@@ -35,10 +35,8 @@ frmPlayerName::frmPlayerName(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt:
     kit::Place(txtPlayerName, {360, 510, 2670, 345});
     txtPlayerName->installEventFilter(this);
 
-    lblOK = new kit::ClickLabel(QStringLiteral("[OK]"), this);
-    kit::StyleLabel(lblOK, kit::Sans(9.75, true), Qt::white, Qt::AlignCenter);
-    lblOK->setCursor(Qt::PointingHandCursor);
-    kit::Place(lblOK, {1335, 1020, 720, 285});
+    lblOK = kit::MakeClickLabel(this, QStringLiteral("[OK]"), kit::TwipsRect(1335, 1020, 720, 285),
+                                kit::Sans(9.75, true), Qt::white);
     connect(lblOK, &kit::ClickLabel::clicked, this, [this] { lblOK_Click(); });
     txtPlayerName->setFocus();
 }

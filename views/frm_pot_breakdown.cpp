@@ -34,18 +34,17 @@ frmPotBreakdown::frmPotBreakdown(const PotBreakdown& breakdown, QWidget* parent)
     lblName[10] = label(QStringLiteral("Pot Breakdown"), {1095, 120, 1605, 240}, Qt::AlignHCenter, true);
     for (int s = 1; s <= kSeats; ++s) {
         int top = kFirstRow + kRowHeight * (s - 1);
-        // Long names run to the left of their box rather than being cut.
+        // Long names run to the left of their box, and a name longer still
+        // takes a smaller font rather than being cut.
         lblName[s] = label(Q(breakdown.name[s]), {120, top, 1080 + 780 - 120, kRowHeight}, Qt::AlignRight);
+        kit::FitFontToWidth(lblName[s], lblName[s]->font());
         lblInPot[s] = label(Dollars(breakdown.bet[s]), {2040, top, 780 + 900, kRowHeight}, Qt::AlignLeft);
     }
     lblName[9] = label(QStringLiteral("Total:"), {1350, 2520, 510, 240}, Qt::AlignRight);
     lblInPot[9] = label(Dollars(breakdown.total), {2040, 2520, 780 + 900, 240}, Qt::AlignLeft);
 
-    lblClose = new kit::ClickLabel(QStringLiteral("[Close]"), this);
-    kit::StyleLabel(lblClose, kit::Sans(8.25), Qt::white, Qt::AlignRight | Qt::AlignVCenter);
-    Place(lblClose, {3030, 3000, 645, 240});
-    kit::GrowToText(lblClose);
-    lblClose->setCursor(Qt::PointingHandCursor);
+    lblClose = kit::MakeClickLabel(this, QStringLiteral("[Close]"), kit::TwipsRect(3030, 3000, 645, 240),
+                                   kit::Sans(8.25), Qt::white, Qt::AlignRight);
     connect(lblClose, &kit::ClickLabel::clicked, this, &QDialog::accept);
 }
 

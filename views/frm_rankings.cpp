@@ -4,6 +4,8 @@
 
 namespace holdem {
 
+using namespace kit;
+
 namespace {
 
 const QColor kText(224, 224, 224);
@@ -17,16 +19,7 @@ QLabel* MakeLabel(QWidget* parent, QRect box, Qt::Alignment align) {
     auto* label = new QLabel(parent);
     label->setGeometry(box);
     label->setAlignment(align | Qt::AlignVCenter);
-    label->setFont(SansFont(8));
-    SetTextColour(label, kText);
-    return label;
-}
-
-ClickLabel* MakeButtonLabel(QWidget* parent, const QString& text, QRect box) {
-    auto* label = new ClickLabel(text, parent);
-    label->setGeometry(box);
-    label->setAlignment(Qt::AlignCenter);
-    label->setFont(SansFont(8));
+    label->setFont(Sans(8));
     SetTextColour(label, kText);
     return label;
 }
@@ -47,16 +40,16 @@ frmRankings::frmRankings(const std::string& standingsPath, QWidget* parent) : QD
     Label2 = new QLabel("Standings", this);
     Label2->setGeometry(TwipsRect(2040, 120, 975, 285));
     Label2->setAlignment(Qt::AlignCenter);
-    Label2->setFont(SerifFont(12, true));
+    Label2->setFont(Serif(12, true));
     SetTextColour(Label2, kText);
-    FitCentred(Label2);
+    GrowToText(Label2);
 
     BuildRows();
     lblPage = MakeLabel(this, TwipsRect(840, 7320, 525, 195), Qt::AlignHCenter);
-    FitCentred(lblPage, "Page 40");
-    lblPrevious = MakeButtonLabel(this, "[PREVIOUS]", TwipsRect(2160, 7320, 945, 195));
-    lblNext = MakeButtonLabel(this, "[NEXT]", TwipsRect(3240, 7320, 555, 195));
-    lblClose = MakeButtonLabel(this, "[CLOSE]", TwipsRect(4440, 7320, 615, 195));
+    GrowToText(lblPage, "Page 40");
+    lblPrevious = MakeClickLabel(this, "[PREVIOUS]", TwipsRect(2160, 7320, 945, 195), Sans(8), kText);
+    lblNext = MakeClickLabel(this, "[NEXT]", TwipsRect(3240, 7320, 555, 195), Sans(8), kText);
+    lblClose = MakeClickLabel(this, "[CLOSE]", TwipsRect(4440, 7320, 615, 195), Sans(8), kText);
 
     connect(lblNext, &ClickLabel::clicked, this, [this] {
         lblNext_Click(s_);

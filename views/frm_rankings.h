@@ -6,8 +6,8 @@
 #include <array>
 #include <string>
 
-#include "views/form_kit.h"
 #include "views/standings_model.h"
+#include "views/view_kit.h"
 
 class QLabel;
 
@@ -23,9 +23,9 @@ public:
     QLabel* Label2 = nullptr;
     std::array<QLabel*, kUserRow + 1> lblRank{}, lblName{}, lblBank{};
     QLabel* lblPage = nullptr;
-    ClickLabel* lblPrevious = nullptr;
-    ClickLabel* lblNext = nullptr;
-    ClickLabel* lblClose = nullptr;
+    kit::ClickLabel* lblPrevious = nullptr;
+    kit::ClickLabel* lblNext = nullptr;
+    kit::ClickLabel* lblClose = nullptr;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

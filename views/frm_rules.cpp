@@ -9,8 +9,8 @@ constexpr PictureBookLayout kRulesLayout{
     .width = 6510, .height = 6975,
     .pageLeft = 120, .pageTop = 120, .pageWidth = 6255, .pageHeight = 6255,
     .buttonTop = 6480, .previousLeft = 2760, .nextLeft = 3840, .closeLeft = 4920,
-    .firstPicture = "pictures/rules1.png",
-    .secondPicture = "pictures/rules2.png",
+    .firstPicture = "rules1.png",
+    .secondPicture = "rules2.png",
 };
 // clang-format on
 }  // namespace

@@ -69,9 +69,15 @@ frmSplash::frmSplash(const std::string& appFolder, QWidget* parent)
     timerSplash = new QTimer(this);
     timerSplash->setInterval(kSplashInterval);
     connect(timerSplash, &QTimer::timeout, this, [this] { timerSplash_Timer(); });
-    timerSplash->start();
     lblVersion->setText(QStringLiteral("Version 1.1"));
     setFocusPolicy(Qt::StrongFocus);
+}
+
+// The ticks count from the moment the splash is on the screen: on a slow
+// start it would otherwise be gone before it was seen.
+void frmSplash::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!closed_ && !timerSplash->isActive()) timerSplash->start();
 }
 
 void frmSplash::timerSplash_Timer() {

@@ -5,9 +5,11 @@
 #include <QPushButton>
 
 #include "engine/game_state.h"
-#include "views/form_kit.h"
+#include "views/view_kit.h"
 
 namespace holdem {
+
+using namespace kit;
 
 namespace {
 constexpr int kSymbolPixels = 32;
@@ -16,7 +18,7 @@ constexpr int kSymbolPixels = 32;
 frmTip::frmTip(Game& game, QWidget* parent) : QDialog(parent), game_(game) {
     setWindowTitle("Tip of the Day");
     setFixedSize(Px(5415), Px(2700));
-    setFont(SansFont(8));
+    setFont(Sans(8));
 
     Picture1 = new QWidget(this);
     Picture1->setGeometry(TwipsRect(120, 120, 3735, 2235));
@@ -24,12 +26,11 @@ frmTip::frmTip(Game& game, QWidget* parent) : QDialog(parent), game_(game) {
 
     picSymbol = new QLabel(Picture1);
     picSymbol->setGeometry(Px(120), Px(120), kSymbolPixels, kSymbolPixels);
-    picSymbol->setPixmap(
-        LoadPicture(game.AppFolder + "pictures/tip.png", QSize(kSymbolPixels, kSymbolPixels)));
+    picSymbol->setPixmap(LoadPicture(game.AppFolder, "tip.png", QSize(kSymbolPixels, kSymbolPixels)));
 
     Label1 = new QLabel("Did you know...", Picture1);
     Label1->setGeometry(TwipsRect(840, 240, 2760, 360));
-    Label1->setFont(SansFont(12, true));
+    Label1->setFont(Sans(12, true));
     SetTextColour(Label1, Qt::black);
 
     lblTipText = new QLabel(Picture1);

@@ -3,9 +3,11 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "views/form_kit.h"
+#include "views/view_kit.h"
 
 namespace holdem {
+
+using namespace kit;
 
 namespace {
 constexpr int kButtonWidth = 855, kButtonHeight = 375;
@@ -15,7 +17,7 @@ PictureBook::PictureBook(const std::string& appFolder, const PictureBookLayout& 
     : QDialog(parent) {
     setWindowTitle(layout.title);
     setFixedSize(Px(layout.width), Px(layout.height));
-    setFont(SansFont(8));
+    setFont(Sans(8));
 
     display_ = new QLabel(this);
     display_->setGeometry(TwipsRect(layout.pageLeft, layout.pageTop, layout.pageWidth, layout.pageHeight));
@@ -23,8 +25,8 @@ PictureBook::PictureBook(const std::string& appFolder, const PictureBookLayout& 
     display_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     SetBackground(display_, Qt::white);
     QSize inside = display_->contentsRect().size();
-    pages_[0] = LoadPictureToFit(appFolder + layout.firstPicture, inside);
-    pages_[1] = LoadPictureToFit(appFolder + layout.secondPicture, inside);
+    pages_[0] = LoadPicture(appFolder, layout.firstPicture, inside, Qt::KeepAspectRatio);
+    pages_[1] = LoadPicture(appFolder, layout.secondPicture, inside, Qt::KeepAspectRatio);
 
     auto button = [this, &layout](const QString& text, int left) {
         auto* b = new QPushButton(text, this);

@@ -17,7 +17,7 @@ struct PictureBookLayout {
     int width, height;                             // client area, twips
     int pageLeft, pageTop, pageWidth, pageHeight;  // the page on show, twips
     int buttonTop, previousLeft, nextLeft, closeLeft;
-    const char* firstPicture;  // under AppFolder
+    const char* firstPicture;  // in the pictures folder
     const char* secondPicture;
 };
 

@@ -1,5 +1,6 @@
 #include "views/qt_platform.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -65,7 +66,10 @@ MsgAnswer QtPlatform::MessageBox(const std::string& text, const std::string& tit
     if (buttons == MsgButtons::YesNo) qtButtons = QMessageBox::Yes | QMessageBox::No;
     if (buttons == MsgButtons::YesNoCancel)
         qtButtons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    QMessageBox box(qtIcon, Q(title), Q(text), qtButtons, Owner());
+    // A refusal of the bet dialog stands over that dialog, not the table.
+    QWidget* parent = Owner();
+    if (QWidget* modal = QApplication::activeModalWidget()) parent = modal;
+    QMessageBox box(qtIcon, Q(title), Q(text), qtButtons, parent);
     if (buttons != MsgButtons::OK) box.setDefaultButton(QMessageBox::Yes);
     switch (box.exec()) {
         case QMessageBox::Yes:

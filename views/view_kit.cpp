@@ -1,6 +1,8 @@
 #include "views/view_kit.h"
 
+#include <QEvent>
 #include <QFile>
+#include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -18,6 +20,24 @@ constexpr int kCardHeight2x = 188;
 const char* const kRanks[] = {"", "2", "3", "4", "5", "6", "7", "8", "9", "10", "J", "Q", "K", "A"};
 // Hearts, spades, diamonds, clubs, as the picture numbers run.
 const char16_t kSuits[] = {u'\u2665', u'\u2660', u'\u2666', u'\u2663'};
+// The smallest a fitted font may get, in pixels; below it text is clipped.
+constexpr int kSmallestFitPixels = 8;
+
+QPixmap Placeholder(QSize size) {
+    QPixmap pixmap(size.expandedTo(QSize(1, 1)));
+    pixmap.fill(QColor(192, 192, 192));
+    QPainter painter(&pixmap);
+    painter.setPen(QColor(128, 128, 128));
+    painter.drawRect(0, 0, pixmap.width() - 1, pixmap.height() - 1);
+    painter.drawLine(0, 0, pixmap.width() - 1, pixmap.height() - 1);
+    painter.drawLine(0, pixmap.height() - 1, pixmap.width() - 1, 0);
+    return pixmap;
+}
+
+bool LeftClickInside(const QWidget* widget, const QMouseEvent* event) {
+    return event->button() == Qt::LeftButton && widget->isEnabled() &&
+           widget->rect().contains(event->position().toPoint());
+}
 }  // namespace
 
 QString Q(const std::string& s) { return QString::fromStdString(s); }
@@ -31,13 +51,16 @@ QFont Face(const char* family, double points, bool bold, bool italic) {
     return font;
 }
 
-void StyleLabel(QLabel* label, const QFont& font, const QColor& colour, Qt::Alignment align) {
-    label->setFont(font);
-    QPalette pal = label->palette();
-    pal.setColor(QPalette::WindowText, colour);
-    label->setPalette(pal);
-    label->setAlignment(align);
-    label->setAutoFillBackground(false);
+void SetTextColour(QWidget* widget, const QColor& colour) {
+    QPalette palette = widget->palette();
+    for (auto group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::WindowText, colour);
+        palette.setColor(group, QPalette::Text, colour);
+    }
+    QColor dim = colour.lightness() > 96 ? colour.darker(250) : QColor(128, 128, 128);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, dim);
+    palette.setColor(QPalette::Disabled, QPalette::Text, dim);
+    widget->setPalette(palette);
 }
 
 void SetBackground(QWidget* w, const QColor& colour) {
@@ -47,8 +70,17 @@ void SetBackground(QWidget* w, const QColor& colour) {
     w->setAutoFillBackground(true);
 }
 
-void GrowToText(QLabel* label) {
-    int needed = label->fontMetrics().horizontalAdvance(label->text()) + 2;
+void StyleLabel(QLabel* label, const QFont& font, const QColor& colour, Qt::Alignment align) {
+    label->setFont(font);
+    SetTextColour(label, colour);
+    label->setAlignment(align);
+    label->setAutoFillBackground(false);
+}
+
+void GrowToText(QLabel* label, const QString& widest) {
+    const QString& text = widest.isEmpty() ? label->text() : widest;
+    QFontMetrics metrics(label->font());
+    int needed = metrics.horizontalAdvance(text) + 2 * label->margin() + 2;
     QRect box = label->geometry();
     if (needed <= box.width()) return;
     int left = box.left();
@@ -56,7 +88,16 @@ void GrowToText(QLabel* label) {
         left = box.center().x() + 1 - needed / 2;
     else if (label->alignment() & Qt::AlignRight)
         left = box.right() + 1 - needed;
-    label->setGeometry(left, box.top(), needed, std::max(box.height(), label->fontMetrics().height()));
+    label->setGeometry(left, box.top(), needed, std::max(box.height(), metrics.height()));
+}
+
+void FitFontToWidth(QLabel* label, const QFont& font) {
+    QFont fitted = font;
+    int room = label->contentsRect().width() - 2 * label->margin();
+    while (fitted.pixelSize() > kSmallestFitPixels &&
+           QFontMetrics(fitted).horizontalAdvance(label->text()) > room)
+        fitted.setPixelSize(fitted.pixelSize() - 1);
+    if (label->font() != fitted) label->setFont(fitted);
 }
 
 QPixmap LoadPicture(const std::string& appFolder, const QString& name) {
@@ -64,6 +105,12 @@ QPixmap LoadPicture(const std::string& appFolder, const QString& name) {
     QPixmap pixmap;
     if (QFile::exists(path)) pixmap.load(path);
     return pixmap;
+}
+
+QPixmap LoadPicture(const std::string& appFolder, const QString& name, QSize size, Qt::AspectRatioMode mode) {
+    QPixmap pixmap = LoadPicture(appFolder, name);
+    if (pixmap.isNull()) return Placeholder(size);
+    return pixmap.scaled(size, mode, Qt::SmoothTransformation);
 }
 
 QString CardName(int card) {
@@ -146,9 +193,54 @@ void PictureBox::paintEvent(QPaintEvent*) {
     p.drawPixmap(QPoint(0, 0), scaled_);
 }
 
+ClickLabel::ClickLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {
+    setCursor(Qt::PointingHandCursor);
+}
+
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) emit clicked();
+    if (LeftClickInside(this, event)) emit clicked();
     QLabel::mouseReleaseEvent(event);
+}
+
+void ClickLabel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::EnabledChange)
+        setCursor(isEnabled() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    QLabel::changeEvent(event);
+}
+
+ClickLabel* MakeClickLabel(QWidget* parent, const QString& text, const QRect& box, const QFont& font,
+                           const QColor& colour, Qt::Alignment align) {
+    auto* label = new ClickLabel(text, parent);
+    StyleLabel(label, font, colour, align | Qt::AlignVCenter);
+    label->setGeometry(box);
+    GrowToText(label);
+    return label;
+}
+
+ColourShape::ColourShape(bool rounded, QWidget* parent) : QWidget(parent), rounded_(rounded) {}
+
+void ColourShape::setColour(const QColor& colour) {
+    if (colour == colour_) return;
+    colour_ = colour;
+    update();
+}
+
+void ColourShape::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (!rounded_) {
+        painter.fillRect(rect(), colour_);
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour_);
+    qreal radius = height() / 4.0;
+    painter.drawRoundedRect(QRectF(rect()), radius, radius);
+}
+
+void ColourShape::mouseReleaseEvent(QMouseEvent* event) {
+    if (LeftClickInside(this, event)) emit clicked();
+    QWidget::mouseReleaseEvent(event);
 }
 
 }  // namespace holdem::kit

@@ -1,8 +1,10 @@
 // Small pieces every form of the window shares: twips placement, the fonts
-// that stand in for the original faces, pictures with a drawn fallback, a
-// picture box that stretches its picture, and a label that acts as a button.
+// that stand in for the original faces, label styling and fitting, pictures
+// with a drawn fallback, a picture box that stretches its picture, a label
+// that acts as a button and a coloured shape that takes clicks.
 #pragma once
 
+#include <QColor>
 #include <QLabel>
 #include <QPixmap>
 #include <QRect>
@@ -18,9 +20,13 @@ struct Twips {
     int left, top, width, height;
 };
 
-inline QRect ToPixels(const Twips& t) {
-    return QRect(t.left / kTwipsPerPixel, t.top / kTwipsPerPixel, t.width / kTwipsPerPixel,
-                 t.height / kTwipsPerPixel);
+// Twips to the nearest pixel.
+constexpr int Px(int twips) {
+    return (twips * 2 + (twips < 0 ? -kTwipsPerPixel : kTwipsPerPixel)) / (2 * kTwipsPerPixel);
+}
+inline QRect ToPixels(const Twips& t) { return QRect(Px(t.left), Px(t.top), Px(t.width), Px(t.height)); }
+inline QRect TwipsRect(int left, int top, int width, int height) {
+    return ToPixels({left, top, width, height});
 }
 inline void Place(QWidget* w, const Twips& t) { w->setGeometry(ToPixels(t)); }
 
@@ -34,16 +40,25 @@ QFont Face(const char* family, double points, bool bold = false, bool italic = f
 inline QFont Sans(double points, bool bold = false, bool italic = false) {
     return Face(kSansFace, points, bold, italic);
 }
+inline QFont Serif(double points, bool bold = false) { return Face(kSerifFace, points, bold); }
 
+// Text colour of a widget, with a dimmed version for its disabled state.
+void SetTextColour(QWidget* widget, const QColor& colour);
+void SetBackground(QWidget* w, const QColor& colour);
 // A transparent label in the given font, colour and alignment.
 void StyleLabel(QLabel* label, const QFont& font, const QColor& colour, Qt::Alignment align);
-void SetBackground(QWidget* w, const QColor& colour);
-// Widens a label that its text would overflow, keeping the edge or middle
-// its alignment names in place.
-void GrowToText(QLabel* label);
+// Widens a label that its text (or the widest text it will hold) would
+// overflow, keeping the edge or middle its alignment names in place.
+void GrowToText(QLabel* label, const QString& widest = QString());
+// Gives the label its font, made smaller if need be so that the text fits
+// its width: a long name stays whole in a fixed box.
+void FitFontToWidth(QLabel* label, const QFont& font);
 
 // AppFolder + "pictures/" + name, or a null pixmap when it cannot be read.
 QPixmap LoadPicture(const std::string& appFolder, const QString& name);
+// The same scaled smoothly to size, or a plain framed placeholder.
+QPixmap LoadPicture(const std::string& appFolder, const QString& name, QSize size,
+                    Qt::AspectRatioMode mode = Qt::IgnoreAspectRatio);
 
 // The store of card pictures: faces 1..52 and the back (0). A missing file is
 // replaced by a plainly drawn card so the game stays playable.
@@ -84,16 +99,45 @@ private:
     QSize natural_;
 };
 
-// A label that acts as a button: "[OK]", "[CLOSE]", the pot.
+// A label that acts as a button: "[OK]", "[CLOSE]", the pot. It takes a
+// click only while enabled and shows the pointing hand while it does.
 class ClickLabel : public QLabel {
     Q_OBJECT
 public:
-    using QLabel::QLabel;
+    explicit ClickLabel(const QString& text = QString(), QWidget* parent = nullptr);
+    explicit ClickLabel(QWidget* parent) : ClickLabel(QString(), parent) {}
+
 signals:
     void clicked();
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+};
+
+// A label that acts as a button, styled and placed in its box, widened if
+// its text would not fit.
+ClickLabel* MakeClickLabel(QWidget* parent, const QString& text, const QRect& box, const QFont& font,
+                           const QColor& colour, Qt::Alignment align = Qt::AlignCenter);
+
+// A filled square or rounded rectangle of one colour; clickable while enabled.
+class ColourShape : public QWidget {
+    Q_OBJECT
+public:
+    explicit ColourShape(bool rounded, QWidget* parent = nullptr);
+    void setColour(const QColor& colour);
+    QColor colour() const { return colour_; }
+
+signals:
+    void clicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    bool rounded_;
+    QColor colour_{Qt::black};
 };
 
 QString Q(const std::string& s);

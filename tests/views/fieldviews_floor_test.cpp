@@ -172,7 +172,7 @@ private slots:
         QCOMPARE(form.lblPlayers->text(), QString("Players Remaining: 79"));
         QCOMPARE(form.sTable[6]->geometry(), QRect(112, 72, 73, 41));  // top of the second column
         QCOMPARE(form.sSeat[1]->geometry(), QRect(48, 104, 8, 8));     // bottom middle of table 1
-        QCOMPARE(form.sSeat[15]->geometry().topLeft(), QPoint(Px(240 + 960), Px(1080 + 960 + 240)));
+        QCOMPARE(form.sSeat[15]->geometry().topLeft(), QPoint(kit::Px(240 + 960), kit::Px(1080 + 960 + 240)));
         const std::pair<QColor, QColor> colours[] = {{form.sSeat[1]->colour(), QColor(255, 255, 0)},
                                                      {form.sSeat[37]->colour(), QColor(0, 0, 255)},
                                                      {form.sSeat[5]->colour(), QColor(64, 0, 0)},
@@ -186,7 +186,7 @@ private slots:
         QTest::mouseClick(form.sSeat[66], Qt::LeftButton);  // table 9, column 1 row 3
         QCOMPARE(form.lblSeatData->text(), QString("#66 Maximiliano Fitzgerald   $10,000"));
         QCOMPARE(form.sSeat[66]->colour(), QColor(255, 255, 255));
-        QCOMPARE(form.lblSeatData->geometry().topLeft(), QPoint(Px(1680 + 25), Px(3960 - 250)));
+        QCOMPARE(form.lblSeatData->geometry().topLeft(), QPoint(kit::Px(1680 + 25), kit::Px(3960 - 250)));
         QVERIFY(form.lblSeatData->isVisible() &&
                 form.lblSeatData->width() >
                     QFontMetrics(form.lblSeatData->font()).horizontalAdvance(form.lblSeatData->text()));
@@ -206,7 +206,7 @@ private slots:
         form.show();
         QTest::mouseClick(form.sSeat[200], Qt::LeftButton);
         QVERIFY(form.lblSeatData->isVisible() && form.lblSeatData->geometry().right() < form.width());
-        QCOMPARE(form.lblSeatData->y(), Px(1080 + 4 * 960 - 250));
+        QCOMPARE(form.lblSeatData->y(), kit::Px(1080 + 4 * 960 - 250));
         QVERIFY(holdem::test::SaveScreenshot(form, "fieldviews_floor_edge"));
     }
 };

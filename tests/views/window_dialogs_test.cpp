@@ -207,6 +207,7 @@ private slots:
     void splashClosesAtTheSecondTickOrAKey() {
         const std::string folder = QCoreApplication::applicationDirPath().toStdString() + "/";
         frmSplash timed(folder);
+        QVERIFY(!timed.timerSplash->isActive());  // not before it can be seen
         timed.show();
         QCOMPARE(Texts({timed.lblVersion, timed.lblCompanyProduct, timed.lblProductName, timed.lblPlatform}),
                  QString("Version 1.1|Corvane|Texas Hold'em|For Windows"));
