@@ -1,6 +1,7 @@
 #include "tests/support/table_builder.h"
 
 #include <algorithm>
+#include <functional>
 #include <stdexcept>
 
 namespace holdem::test {
@@ -43,10 +44,9 @@ void TableBuilder::ApplyTo(Game& game) const {
     int players = 0;
     for (int s = 1; s <= kSeats; ++s) {
         game.RosterNumber[s] = static_cast<int16_t>(s);
-        game.RosterName[s] = names_[s];
+        game.RosterName[s] = game.SeatName[s] = names_[s];
         game.RosterBank[s] = banks_[s];
         game.RosterPlace[s] = 0;
-        game.SeatName[s] = names_[s];
         if (banks_[s] > 0) ++players;
     }
     game.ButtonSeat = button_;
@@ -68,10 +68,8 @@ std::vector<float> ShuffleDrawsFor(const std::vector<int>& front) {
             if (at == pool.begin() + k + 1) throw std::invalid_argument("card twice in the deck");
             j = static_cast<int>(at - pool.begin());
         }
-        float draw = 0.0f;
-        if (k > 0)
-            draw = j < k ? static_cast<float>(j) / static_cast<float>(k)
-                         : (static_cast<float>(k) - 0.25f) / static_cast<float>(k);
+        // j / k rounds back to j; k itself needs a draw just below 1.
+        float draw = k == 0 ? 0.0f : static_cast<float>(j < k ? j : k - 0.25f) / static_cast<float>(k);
         if (static_cast<int>(RoundHalfEven(static_cast<float>(k) * draw)) != j)
             throw std::logic_error("no draw for the wanted card");
         draws.push_back(draw);
@@ -108,6 +106,74 @@ std::vector<float> Draws(std::initializer_list<std::vector<float>> parts) {
     std::vector<float> all;
     for (const auto& part : parts) all.insert(all.end(), part.begin(), part.end());
     return all;
+}
+
+void TableGame::Start(const TableBuilder& table, const std::vector<float>& then) {
+    table.ApplyTo(g);
+    g.rnd.Script(Draws({std::vector<float>(kDeckSize, 0.0f), then}));
+    g.StartHand();
+}
+
+namespace {
+
+int Run(TableGame& t, const std::function<bool(TimerId)>& more) {
+    int ticks = 0;
+    for (TimerId id = t.g.RunningTimer(); more(id) && id != kTimerCount && ticks < 500;
+         id = t.g.RunningTimer()) {
+        t.g.FireTimer(id);
+        ++ticks;
+        std::string why;
+        if (t.broken.empty() && !t.g.state_is_ok(&why)) t.broken = why;
+    }
+    return ticks;
+}
+
+}  // namespace
+
+int TableGame::RunUntil(TimerId until) {
+    return Run(*this, [until](TimerId id) { return id != until; });
+}
+
+int TableGame::RunWhile(TimerId id) {
+    return Run(*this, [id](TimerId running) { return running == id; });
+}
+
+std::string Bets(const Game& g) {
+    std::string all = g.view.lblBet[1].text;
+    for (int s = 2; s <= kSeats; ++s) all += "|" + g.view.lblBet[s].text;
+    return all;
+}
+
+namespace {
+
+template <std::size_t N>
+std::string VisibleIn(const std::array<Element, N>& family, int from, int to) {
+    std::string all;
+    for (int i = from; i <= to; ++i)
+        if (family[i].visible) all += (all.empty() ? "" : " ") + std::to_string(i);
+    return all;
+}
+
+}  // namespace
+
+std::string Visible(const std::array<Element, 9>& family) { return VisibleIn(family, 1, kSeats); }
+std::string Visible(const std::array<Element, 22>& family, int from, int to) {
+    return VisibleIn(family, from, to);
+}
+
+std::string Buttons(const Game& g) {
+    std::string all;
+    for (int i = 1; i <= 4; ++i) {
+        const Element& b = g.view.cmdPlay[i];
+        all += !b.visible ? '-' : b.enabled ? static_cast<char>('0' + i) : '.';
+    }
+    return all;
+}
+
+std::string Running(const Game& g) {
+    static const char* const kNames[] = {"DealHole", "BetHole",   "DealFlop", "BetFlop",  "DealTurn",
+                                         "BetTurn",  "DealRiver", "BetRiver", "HandOver", "none"};
+    return kNames[g.RunningTimer()];
 }
 
 }  // namespace holdem::test
