@@ -35,38 +35,22 @@ struct Entry {
     std::string outcome;
 };
 
+// clang-format off
 const Entry kEntries[] = {
-    {kRaise, false, "", kNoBet},
-    {kRaise, false, "0", kNoBet},
-    {kRaise, false, "000", kNoBet},
-    {kRaise, false, "150", kHundreds},
-    {kRaise, false, "50", kHundreds},
-    {kRaise, false, "1", kHundreds},
-    {kRaise, false, "4450", kHundreds},  // what Bet Max fills in for a stack of $5,050
-    {kRaise, false, "1001", kHundreds},
-    {kRaise, false, "100", "close 700"},  // $100 even against a far higher call
-    {kRaise, false, "4400", "close 5000"},
-    {kRaise, false, "4500", kOver5050},  // the whole stack, not the raise
-    {kBet, false, "3000", "close 3000"},
-    {kBet, false, "0100", "close 100"},
-    {kChecked, false, "500", "close 500"},
-    {kBet, false, "3100", kOver3000},
-    {kBet, false, "2147483700", kOver3000},
-    {kBet, false, "4294967300", kOver3000},
-    {kBet, false, "99999999999999999999999999999900", kOver3000},
-    {kBet, false, "99999999999999999999999999999950", kHundreds},
-    {kRich, false, "2147483600", "You've only got $2,147,483,000. [Bet Exceeds Your Chip Stack] (i) cleared"},
-    {kBet, false, "-100", kHundreds},
-    {kBet, false, "1e3", kHundreds},
-    {kBet, false, "1,000", kHundreds},
-    {kBet, false, " 100", kHundreds},
-    {kBet, false, "abc", kHundreds},
-    {kRaise, true, "", "No bet entered"},
-    {kRaise, true, "0", "close 0"},
-    {kRaise, true, "200", "close 800"},
-    {kRaise, true, "250", kHundreds},
-    {kRaise, true, "9900", kOver5050},
+    {kRaise, 0, "", kNoBet}, {kRaise, 0, "0", kNoBet}, {kRaise, 0, "000", kNoBet}, {kRaise, 0, "150", kHundreds},
+    {kRaise, 0, "50", kHundreds}, {kRaise, 0, "1", kHundreds}, {kRaise, 0, "1001", kHundreds},
+    {kRaise, 0, "4450", kHundreds},  // what Bet Max fills in for a stack of $5,050
+    {kRaise, 0, "100", "close 700"},  // $100 even against a far higher call
+    {kRaise, 0, "4400", "close 5000"}, {kRaise, 0, "4500", kOver5050},  // the whole stack, not the raise
+    {kBet, 0, "3000", "close 3000"}, {kBet, 0, "0100", "close 100"}, {kChecked, 0, "500", "close 500"},
+    {kBet, 0, "3100", kOver3000}, {kBet, 0, "2147483700", kOver3000}, {kBet, 0, "4294967300", kOver3000},
+    {kBet, 0, "99999999999999999999999999999900", kOver3000}, {kBet, 0, "99999999999999999999999999999950", kHundreds},
+    {kRich, 0, "2147483600", "You've only got $2,147,483,000. [Bet Exceeds Your Chip Stack] (i) cleared"},
+    {kBet, 0, "-100", kHundreds}, {kBet, 0, "1e3", kHundreds}, {kBet, 0, "1,000", kHundreds}, {kBet, 0, " 100", kHundreds},
+    {kBet, 0, "abc", kHundreds}, {kRaise, 1, "", "No bet entered"}, {kRaise, 1, "0", "close 0"},
+    {kRaise, 1, "200", "close 800"}, {kRaise, 1, "250", kHundreds}, {kRaise, 1, "9900", kOver5050},
 };
+// clang-format on
 
 TEST(BetAmount, OkAndEnter) {
     for (const Entry& e : kEntries)

@@ -126,10 +126,8 @@ struct Move {
     int32_t bank, stake, high;  // seat 5's stack and stake, HighBetValue
     bool raised;                // SeatRaised[5] before the move
     std::vector<float> draws;
-    const char* words;  // lblBet(5) on the shown table
-    int32_t stakeAfter, highAfter;
-    int highIndexAfter;
-    bool raisedAfter, inHandAfter;
+    const char* outcome;   // lblBet(5); SeatBet[5], the high bet, SeatRaised[5], SeatInHand[5], a new timer
+    bool headsUp = false;  // seat 5 against the user alone
 };
 
 void PrintTo(const Move& c, std::ostream* os) { *os << c.name; }
@@ -137,109 +135,104 @@ void PrintTo(const Move& c, std::ostream* os) { *os << c.name; }
 // clang-format off
 const Move kMoves[] = {
     // Before the flop, facing the large blind of $200.
-    {"matched: no draw", 1, 0, 10, 0, 10000, 200, 200, 0, {}, "", 200, 200, 3, 0, 1},
-    {"fold", 1, 0, 50, 5, 10000, 0, 200, 0, {0.51f}, "Folded", 0, 200, 3, 0, 0},
-    {"stay at CallChance, no raise at RaiseChance", 1, 0, 50, 5, 10000, 0, 200, 0, {0.5f, 0.05f}, "Called $200", 200, 200, 3, 0, 1},
-    {"x 1", 1, 0, 50, 5, 10000, 0, 200, 0, {0, 0, kX1}, "Raised to $400", 400, 400, 5, 1, 1},
-    {"x 8", 1, 0, 50, 5, 10000, 0, 200, 0, {0, 0, kX8}, "Raised to $1,800", 1800, 1800, 5, 1, 1},
-    {"x 9 is 10", 1, 0, 50, 5, 10000, 0, 200, 0, {0, 0, kX9}, "Raised to $2,200", 2200, 2200, 5, 1, 1},
-    {"x 10", 1, 0, 50, 5, 10000, 0, 200, 0, {0, 0, kX10}, "Raised to $2,200", 2200, 2200, 5, 1, 1},
-    {"2.5 hundreds round to 2", 1, 0, 50, 5, 10000, 150, 200, 0, {0, 0, kX1}, "Raised to $350", 350, 350, 5, 1, 1},
-    {"one raise a street", 1, 0, 50, 5, 10000, 0, 200, 1, {0, 0}, "Called $200", 200, 200, 3, 1, 1},
-    {"all-in raise", 1, 0, 50, 5, 300, 0, 200, 0, {0, 0, kX10}, "Raised to $300 All In", 300, 300, 5, 1, 1},
-    {"raise cut below H: short call", 1, 0, 50, 5, 150, 0, 200, 0, {0, 0, kX10}, "Called $150 All In", 150, 200, 3, 1, 1},
-    {"no chips cannot fold", 1, 0, 10, 0, 0, 0, 200, 0, {0.99f}, "Checked", 0, 200, 3, 0, 1},
-    {"background raises without limit", 1, 1, 50, 5, 10000, 0, 200, 1, {0, 0, kX1}, "", 400, 400, 5, 1, 1},
-    {"background marks no raise", 1, 1, 50, 5, 10000, 0, 200, 0, {0, 0, kX1}, "", 400, 400, 5, 0, 1},
-    {"background short call", 1, 1, 50, 5, 150, 0, 200, 0, {0, 0, kX10}, "", 150, 200, 3, 0, 1},
-    {"background fold", 1, 1, 10, 0, 10000, 0, 200, 0, {0.5f}, "", 0, 200, 3, 0, 0},
-    {"background no chips", 1, 1, 10, 0, 0, 0, 200, 0, {0.5f}, "", 0, 200, 3, 0, 1},
+    {"matched: no draw", 1, 0, 10, 0, 10000, 200, 200, 0, {}, "; 200 H3/200"},
+    {"fold", 1, 0, 50, 5, 10000, 0, 200, 0, {0.51f}, "Folded; 0 H3/200 out"},
+    {"stay at CallChance, no raise at RaiseChance", 1, 0, 50, 5, 10000, 0, 200, 0, {0.5f, 0.05f}, "Called $200; 200 H3/200"},
+    {"x 1", 1, 0, 50, 5, 10000, 0, 200, 0, {0, 0, kX1}, "Raised to $400; 400 H5/400 raised"},
+    {"x 8", 1, 0, 50, 5, 10000, 0, 200, 0, {0, 0, kX8}, "Raised to $1,800; 1800 H5/1800 raised"},
+    {"x 9 is 10", 1, 0, 50, 5, 10000, 0, 200, 0, {0, 0, kX9}, "Raised to $2,200; 2200 H5/2200 raised"},
+    {"2.5 hundreds round to 2", 1, 0, 50, 5, 10000, 150, 200, 0, {0, 0, kX1}, "Raised to $350; 350 H5/350 raised"},
+    {"one raise a street", 1, 0, 50, 5, 10000, 0, 200, 1, {0, 0}, "Called $200; 200 H3/200 raised"},
+    {"all-in raise", 1, 0, 50, 5, 300, 0, 200, 0, {0, 0, kX10}, "Raised to $300 All In; 300 H5/300 raised"},
+    {"raise cut below H: short call", 1, 0, 50, 5, 150, 0, 200, 0, {0, 0, kX10}, "Called $150 All In; 150 H3/200 raised"},
+    {"no chips cannot fold", 1, 0, 10, 0, 0, 0, 200, 0, {0.99f}, "Checked; 0 H3/200"},
+    {"background raises without limit", 1, 1, 50, 5, 10000, 0, 200, 1, {0, 0, kX1}, "; 400 H5/400 raised"},
+    {"background marks no raise", 1, 1, 50, 5, 10000, 0, 200, 0, {0, 0, kX1}, "; 400 H5/400"},
+    {"background short call", 1, 1, 50, 5, 150, 0, 200, 0, {0, 0, kX10}, "; 150 H3/200"},
+    {"background fold", 1, 1, 10, 0, 10000, 0, 200, 0, {0.5f}, "; 0 H3/200 out"},
+    {"background no chips", 1, 1, 10, 0, 0, 0, 200, 0, {0.5f}, "; 0 H3/200"},
     // After the flop with nothing to call: only RaiseChance counts.
-    {"monster checks", 2, 0, 100, 75, 10000, 0, 0, 0, {0.76f}, "Checked", 0, 0, 5, 0, 1},
-    {"later check keeps HighBetIndex", 2, 0, 80, 40, 10000, 400, 400, 0, {0.99f}, "Checked", 400, 400, 3, 0, 1},
-    {"bet 20%", 2, 0, 80, 40, 10000, 0, 0, 0, {0.4f, kShare20}, "Bet $2,000", 2000, 2000, 5, 1, 1},
-    {"bet 5%", 2, 0, 80, 40, 10000, 0, 0, 0, {0, kShare5}, "Bet $500", 500, 500, 5, 1, 1},
-    {"x above 16: the stack", 2, 0, 80, 40, 10000, 0, 0, 0, {0, kShare100}, "Bet $10,000 All In", 10000, 10000, 5, 1, 1},
-    {"stack rounded up, then capped", 2, 0, 80, 40, 10070, 0, 0, 0, {0, kShare100}, "Bet $10,070 All In", 10070, 10070, 5, 1, 1},
-    {"stack rounded down", 2, 0, 80, 40, 10040, 0, 0, 0, {0, kShare100}, "Bet $10,000", 10000, 10000, 5, 1, 1},
-    {"bet over a standing stake", 2, 0, 80, 40, 10000, 400, 400, 0, {0, kShare20}, "Raised to $2,400", 2400, 2400, 5, 1, 1},
-    {"flop: bet rounding to 0 is a check", 2, 0, 80, 40, 500, 0, 0, 0, {0, kShare5}, "Checked", 0, 0, 5, 0, 1},
-    {"turn: the drawn bet marks the raise", 3, 0, 80, 40, 500, 0, 0, 0, {0, kShare5}, "Checked", 0, 0, 5, 1, 1},
-    {"river: the same", 4, 0, 80, 40, 500, 0, 0, 0, {0, kShare5}, "Checked", 0, 0, 5, 1, 1},
-    {"has bet this street", 3, 0, 80, 40, 10000, 0, 0, 1, {0}, "Checked", 0, 0, 5, 1, 1},
-    {"no chips", 3, 0, 80, 40, 0, 0, 0, 0, {0}, "Checked", 0, 0, 5, 0, 1},
-    {"15% of $3,000 in single precision", 2, 0, 80, 40, 3000, 0, 0, 0, {0, kShare15}, "Bet $500", 500, 500, 5, 1, 1},
-    {"background: the same in double", 2, 1, 80, 40, 3000, 0, 0, 0, {0, kShare15}, "", 400, 400, 5, 0, 1},
-    {"background ignores the raise mark", 3, 1, 80, 40, 10000, 0, 0, 1, {0, kShare20}, "", 2000, 2000, 5, 1, 1},
-    {"background no chips still draws", 3, 1, 80, 40, 0, 0, 0, 0, {0}, "", 0, 0, 5, 0, 1},
-    {"background bet rounding to 0", 3, 1, 80, 40, 500, 0, 0, 0, {0, kShare5}, "", 0, 0, 5, 0, 1},
+    {"monster checks", 2, 0, 100, 75, 10000, 0, 0, 0, {0.76f}, "Checked; 0 H5/0"},
+    {"later check keeps HighBetIndex", 2, 0, 80, 40, 10000, 400, 400, 0, {0.99f}, "Checked; 400 H3/400"},
+    {"bet 20%", 2, 0, 80, 40, 10000, 0, 0, 0, {0.4f, kShare20}, "Bet $2,000; 2000 H5/2000 raised"},
+    {"bet 5%", 2, 0, 80, 40, 10000, 0, 0, 0, {0, kShare5}, "Bet $500; 500 H5/500 raised"},
+    {"x above 16: the stack", 2, 0, 80, 40, 10000, 0, 0, 0, {0, kShare100}, "Bet $10,000 All In; 10000 H5/10000 raised"},
+    {"stack rounded up, then capped", 2, 0, 80, 40, 10070, 0, 0, 0, {0, kShare100}, "Bet $10,070 All In; 10070 H5/10070 raised"},
+    {"stack rounded down", 2, 0, 80, 40, 10040, 0, 0, 0, {0, kShare100}, "Bet $10,000; 10000 H5/10000 raised"},
+    {"bet over a standing stake", 2, 0, 80, 40, 10000, 400, 400, 0, {0, kShare20}, "Raised to $2,400; 2400 H5/2400 raised"},
+    {"flop: bet rounding to 0 is a check", 2, 0, 80, 40, 500, 0, 0, 0, {0, kShare5}, "Checked; 0 H5/0"},
+    {"turn: the drawn bet marks the raise", 3, 0, 80, 40, 500, 0, 0, 0, {0, kShare5}, "Checked; 0 H5/0 raised"},
+    {"river: the same", 4, 0, 80, 40, 500, 0, 0, 0, {0, kShare5}, "Checked; 0 H5/0 raised"},
+    {"has bet this street", 3, 0, 80, 40, 10000, 0, 0, 1, {0}, "Checked; 0 H5/0 raised"},
+    {"no chips", 3, 0, 80, 40, 0, 0, 0, 0, {0}, "Checked; 0 H5/0"},
+    {"15% of $3,000 in single precision", 2, 0, 80, 40, 3000, 0, 0, 0, {0, kShare15}, "Bet $500; 500 H5/500 raised"},
+    {"background: the same in double", 2, 1, 80, 40, 3000, 0, 0, 0, {0, kShare15}, "; 400 H5/400"},
+    {"background ignores the raise mark", 3, 1, 80, 40, 10000, 0, 0, 1, {0, kShare20}, "; 2000 H5/2000 raised"},
+    {"background no chips still draws", 3, 1, 80, 40, 0, 0, 0, 0, {0}, "; 0 H5/0"},
+    {"background bet rounding to 0", 3, 1, 80, 40, 500, 0, 0, 0, {0, kShare5}, "; 0 H5/0"},
     // After the flop facing a bet of $1,000.
-    {"fold to a bet", 2, 0, 80, 40, 10000, 0, 1000, 0, {0.81f}, "Folded", 0, 1000, 3, 0, 0},
-    {"call", 2, 0, 80, 40, 10000, 0, 1000, 0, {0.8f, 0.4f}, "Called $1,000", 1000, 1000, 3, 0, 1},
-    {"raise: the call and 20% of the rest", 2, 0, 80, 40, 10000, 0, 1000, 0, {0, 0, kShare20}, "Raised to $2,800", 2800, 2800, 5, 1, 1},
-    {"raise rounding back to the call", 3, 0, 80, 40, 1050, 0, 1000, 0, {0, 0, kShare5}, "Called $1,000", 1000, 1000, 3, 1, 1},
-    {"all in: checked whatever it drew", 4, 0, 80, 40, 0, 0, 1000, 0, {0, 0, kShare100}, "Checked", 0, 1000, 3, 1, 1},
-    {"one raise a street after the flop", 2, 0, 80, 40, 10000, 0, 1000, 1, {0, 0}, "Called $1,000", 1000, 1000, 3, 1, 1},
-    {"background raises again", 2, 1, 80, 40, 10000, 0, 1000, 1, {0, 0, kShare20}, "", 2800, 2800, 5, 1, 1},
+    {"fold to a bet", 2, 0, 80, 40, 10000, 0, 1000, 0, {0.81f}, "Folded; 0 H3/1000 out"},
+    {"call", 2, 0, 80, 40, 10000, 0, 1000, 0, {0.8f, 0.4f}, "Called $1,000; 1000 H3/1000"},
+    {"raise: the call and 20% of the rest", 2, 0, 80, 40, 10000, 0, 1000, 0, {0, 0, kShare20}, "Raised to $2,800; 2800 H5/2800 raised"},
+    {"raise rounding back to the call", 3, 0, 80, 40, 1050, 0, 1000, 0, {0, 0, kShare5}, "Called $1,000; 1000 H3/1000 raised"},
+    {"all in: checked whatever it drew", 4, 0, 80, 40, 0, 0, 1000, 0, {0, 0, kShare100}, "Checked; 0 H3/1000 raised"},
+    {"one raise a street after the flop", 2, 0, 80, 40, 10000, 0, 1000, 1, {0, 0}, "Called $1,000; 1000 H3/1000 raised"},
+    {"background raises again", 2, 1, 80, 40, 10000, 0, 1000, 1, {0, 0, kShare20}, "; 2800 H5/2800 raised"},
+    // The last opponent's fold ends the hand at once on the shown table only.
+    {"last fold before the flop", 1, 0, 10, 0, 4000, 0, 600, 0, {0.5f}, "Folded; 0 H3/600 out HandOver", true},
+    {"last fold on the turn", 3, 0, 10, 0, 4000, 0, 600, 0, {0.5f}, "Folded; 0 H3/600 out HandOver", true},
+    {"background last fold", 1, 1, 10, 0, 4000, 0, 600, 0, {0.5f}, "; 0 H3/600 out", true},
+    {"background last fold on the turn", 3, 1, 10, 0, 4000, 0, 600, 0, {0.5f}, "; 0 H3/600 out", true},
 };
 // clang-format on
 
-class MoveTest : public ::testing::TestWithParam<Move> {
-protected:
-    ScriptedPlatform p;
-    Game g{p};
-};
+class MoveTest : public ::testing::TestWithParam<Move> {};
 
 TEST_P(MoveTest, Outcome) {
     const Move& c = GetParam();
+    ScriptedPlatform p;
+    Game g(p);
     for (int s = 1; s <= 8; ++s) {
-        g.SeatInHand[s] = true;
-        g.SeatBank[s] = static_cast<float>(g.TableBank[s] = 10000);
         g.view.icard[s].visible = g.view.icard[s + 8].visible = true;
+        g.SeatInHand[s] = !c.headsUp || s == 3 || s == 5;
+        g.SeatBank[s] = static_cast<float>(g.TableBank[s] = s == 5 ? c.bank : 10000);
     }
-    g.PlayersInHand = 8;
+    const int16_t players = g.PlayersInHand = c.headsUp ? 2 : 8;
     g.Street = static_cast<int16_t>(c.street);
     g.CardsKnown = static_cast<int16_t>(c.street == 1 ? 2 : c.street + 3);
     g.CallChance = c.call;
     g.RaiseChance = c.raise;
-    if (c.background)
-        g.TableBank[5] = c.bank;
-    else
-        g.SeatBank[5] = static_cast<float>(c.bank);
+    if (c.background) g.SeatBank[5] = 10000;
     g.SeatRaised[5] = c.raised;
     g.SeatBet[5] = c.stake;
     g.SeatBet[3] = g.HighBetValue = c.high;
     g.HighBetIndex = static_cast<int16_t>(c.high > 0 ? 3 : 0);
     const int32_t pot = g.Pot = c.stake + c.high;
     g.view.lblBank[5].text = "before";
-    TimerId bet = c.street == 1 ? TimerBetHole : TimerBetFlop;
+    const TimerId bet = TimerId(TimerBetHole + 2 * (c.street - 1));
     g.EnableTimer(bet);
     g.rnd.Script(c.draws);
-    if (c.street == 1)
-        g.OpponentMoveBeforeFlop(5, c.background);
-    else
-        g.OpponentMoveAfterFlop(5, c.background);
+    c.street == 1 ? g.OpponentMoveBeforeFlop(5, c.background) : g.OpponentMoveAfterFlop(5, c.background);
 
-    const int32_t paid = c.stakeAfter - c.stake;
+    auto n = [](int32_t v) { return std::to_string(v); };
+    EXPECT_EQ(g.view.lblBet[5].text + "; " + n(g.SeatBet[5]) + " H" + n(g.HighBetIndex) + "/" +
+                  n(g.HighBetValue) + (g.SeatRaised[5] ? " raised" : "") + (g.SeatInHand[5] ? "" : " out") +
+                  (g.RunningTimer() == bet ? "" : " " + test::Running(g)),
+              c.outcome);
     EXPECT_TRUE(g.rnd.Remaining() == 0 && g.rnd.Overdrawn() == 0);
-    EXPECT_EQ(
-        std::tuple(g.SeatBet[5], g.Pot, g.HighBetValue, g.HighBetIndex, g.SeatRaised[5], g.SeatInHand[5]),
-        std::tuple(c.stakeAfter, pot + paid, c.highAfter, c.highIndexAfter, c.raisedAfter, c.inHandAfter));
-    EXPECT_EQ(g.PlayersInHand, c.inHandAfter ? 8 : 7);
-    EXPECT_EQ(g.view.lblBet[5].text, c.words);
-    EXPECT_EQ(g.RunningTimer(), bet);
-    EXPECT_EQ(test::Visible(g.view.icard, 5, 13),
-              c.background || c.inHandAfter ? "5 6 7 8 9 10 11 12 13" : "6 7 8 9 10 11 12");
-    if (c.background) {
-        EXPECT_EQ(std::tuple(g.TableBank[5], g.SeatBank[5], g.view.lblBank[5].text, g.view.lblPot.text,
-                             g.view.lblHBI.text),
-                  std::tuple(c.bank - paid, 10000.0f, "before", "", ""));
-    } else {
-        EXPECT_EQ(g.SeatBank[5], static_cast<float>(c.bank - paid));
-        // A seat that has already matched says and shows nothing.
-        EXPECT_EQ(g.view.lblBank[5].text + " " + g.view.lblPot.text,
-                  c.draws.empty() ? "before " : Money(c.bank - paid) + " " + Money(pot + paid));
-    }
+    const int32_t paid = g.SeatBet[5] - c.stake, bank = c.bank - paid;
+    EXPECT_EQ(std::tuple(g.Pot, g.PlayersInHand), std::tuple(pot + paid, players - !g.SeatInHand[5]));
+    EXPECT_EQ(test::Cards(g, 5, 13),
+              c.background || g.SeatInHand[5] ? "5 6 7 8 9 10 11 12 13" : "6 7 8 9 10 11 12");
+    // The shown table moves SeatBank and its labels; a seat that has matched says nothing.
+    if (c.background)
+        EXPECT_EQ(std::tuple(g.TableBank[5], g.SeatBank[5], g.view.lblBank[5].text,
+                             g.view.lblPot.text + g.view.lblHBI.text),
+                  std::tuple(bank, 10000.0f, "before", ""));
+    else
+        EXPECT_EQ(std::tuple(g.SeatBank[5], g.view.lblBank[5].text, g.view.lblPot.text),
+                  std::tuple(static_cast<float>(bank), c.draws.empty() ? "before" : Money(bank),
+                             c.draws.empty() ? "" : Money(pot + paid)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, MoveTest, ::testing::ValuesIn(kMoves), [](const auto& info) {
@@ -248,31 +241,6 @@ INSTANTIATE_TEST_SUITE_P(Table, MoveTest, ::testing::ValuesIn(kMoves), [](const 
         name += std::isalnum(static_cast<unsigned char>(*c)) ? *c : '_';
     return name;
 });
-
-// The last opponent's fold with the user still in ends the hand at once on the
-// shown table, before the flop and after; a background fold does not.
-TEST(Opponent, TheLastFoldStartsTheHandOverOnTheShownTableOnly) {
-    for (int street : {1, 3}) {
-        for (bool background : {false, true}) {
-            SCOPED_TRACE(street * 10 + background);
-            ScriptedPlatform p;
-            Game g(p);
-            g.SeatInHand[1] = g.SeatInHand[5] = true;
-            g.SeatBank[5] = static_cast<float>(g.TableBank[5] = 4000);
-            g.PlayersInHand = 2;
-            g.Street = static_cast<int16_t>(street);
-            g.SeatBet[1] = g.HighBetValue = 600;
-            g.HighBetIndex = 1;
-            g.CallChance = 10;
-            TimerId bet = street == 1 ? TimerBetHole : TimerBetTurn;
-            g.EnableTimer(bet);
-            g.rnd.Script({0.5f});
-            street == 1 ? g.OpponentMoveBeforeFlop(5, background) : g.OpponentMoveAfterFlop(5, background);
-            EXPECT_EQ(g.PlayersInHand, 1);
-            EXPECT_EQ(g.RunningTimer(), background ? bet : TimerHandOver);
-        }
-    }
-}
 
 }  // namespace
 }  // namespace holdem

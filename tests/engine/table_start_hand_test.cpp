@@ -5,39 +5,22 @@
 namespace holdem {
 namespace {
 
+using test::Join;
 using test::TableBuilder;
 using test::TableGame;
-
-std::string Positions(const Game& g) {
-    auto n = [](int v) { return std::to_string(v); };
-    return "B" + n(g.ButtonSeat) + " S" + n(g.SmallBlindSeat) + " L" + n(g.BigBlindSeat) + " P" +
-           n(g.PreviousSeat) + " C" + n(g.CurrentSeat) + " N" + n(g.PlayersInHand) + " pot " +
-           g.view.lblPot.text + " H" + n(g.HighBetIndex) + "/" + n(g.HighBetValue);
-}
-
-// Each seat's stack as shown ("-" when hidden), and its first hole card.
-std::string Stacks(const Game& g) {
-    std::string all;
-    for (int s = 1; s <= kSeats; ++s)
-        all += (s > 1 ? " " : "") + (g.view.lblBank[s].visible ? g.view.lblBank[s].text : "-");
-    return all;
-}
-std::string FirstCards(const Game& g) {
-    std::string all;
-    for (int s = 1; s <= kSeats; ++s) all += (s > 1 ? " " : "") + std::to_string(g.SeatCards[s][1]);
-    return all;
-}
 
 struct StartCase {
     const char* name;
     std::array<int32_t, 8> banks;
     int button;
     int32_t blind;
-    const char *positions, *bets, *stacks, *firstCards;
+    const char*
+        positions;       // button, small and large blind, previous and current seat, players, pot, high bet
+    const char* bets;    // lblBet(1..8)
+    const char* stacks;  // lblBank(1..8), "-" when hidden
+    const char* firstCards;  // the all-zero shuffle deals 1, 52, 51, ... from the seat after the button on
 };
 
-// The all-zero shuffle deals 1, 52, 51, ... from the seat after the button on,
-// empty or not.
 // clang-format off
 const StartCase kStarts[] = {
     {"eight", {10000, 10000, 10000, 10000, 10000, 10000, 10000, 10000}, 8, 100, "B1 S2 L3 P3 C4 N8 pot 300 H3/200",
@@ -61,25 +44,77 @@ const StartCase kStarts[] = {
 };
 // clang-format on
 
-TEST(StartHand, ButtonBlindsFirstToActAndDeal) {
+// What the last hand left on the table.
+void LeaveALastHand(Game& g) {
+    View& v = g.view;
+    g.HandsPlayed = 4;
+    for (int s = 1; s <= kSeats; ++s) {
+        g.SeatRaised[s] = g.HandIsOver = v.lblPaid[s].visible = v.iArrow[s].visible = v.iButton[s].visible =
+            true;
+        g.SeatTotalBet[s] = g.WinnerSeats[s] = g.SeatCards[s][0] = g.SeatHandCode[s] =
+            g.StartingHandClass[s] = 7;
+        g.SeatHandName[s] = "Two Pair";
+        v.lblBet[s].visible = false;
+    }
+    for (int i = 1; i <= 21; ++i) v.icard[i].visible = true;
+    for (int i = 1; i <= 4; ++i) v.cmdPlay[i].visible = true;
+    v.cmdDeal.visible = v.cmdStandings.visible = v.cmdFloor.visible = v.mnuSave.enabled =
+        v.mnuSaveAs.enabled = true;
+}
+
+TEST(StartHand, TheDealButtonSeatsResetsAndPostsTheBlinds) {
     for (const StartCase& c : kStarts) {
         SCOPED_TRACE(c.name);
         TableGame t;
+        Game& g = t.g;
+        const View& v = g.view;
         TableBuilder table;
         for (int s = 1; s <= kSeats; ++s) table.Bank(s, c.banks[s - 1]);
-        t.Start(table.Button(c.button).SmallBlind(c.blind));
-        const Game& g = t.g;
-        EXPECT_EQ(Positions(g), c.positions);
+        table.Button(c.button).SmallBlind(c.blind).ApplyTo(g);
+        LeaveALastHand(g);
+        g.rnd.Script(std::vector<float>(52, 0.0f));
+        g.cmdDeal_Click();
+
+        auto n = [](int x) { return std::to_string(x); };
+        EXPECT_EQ("B" + n(g.ButtonSeat) + " S" + n(g.SmallBlindSeat) + " L" + n(g.BigBlindSeat) + " P" +
+                      n(g.PreviousSeat) + " C" + n(g.CurrentSeat) + " N" + n(g.PlayersInHand) + " pot " +
+                      v.lblPot.text + " H" + n(g.HighBetIndex) + "/" + n(g.HighBetValue),
+                  c.positions);
         EXPECT_EQ(test::Bets(g), c.bets);
-        EXPECT_EQ(Stacks(g), c.stacks);
-        EXPECT_EQ(FirstCards(g), c.firstCards);
+        EXPECT_EQ(Join([&](int s) { return v.lblBank[s].visible ? v.lblBank[s].text : "-"; }), c.stacks);
+        EXPECT_EQ(Join([&](int s) { return n(g.SeatCards[s][1]); }), c.firstCards);
         for (int s = 1; s <= kSeats; ++s) {
-            EXPECT_EQ(g.SeatInHand[s], c.banks[s - 1] > 0) << s;
-            EXPECT_EQ(g.view.lblName[s].visible, g.SeatInHand[s]) << s;
-            EXPECT_EQ(g.view.lblBankDollarSign[s].visible, g.SeatInHand[s]) << s;
-            EXPECT_EQ(g.view.iButton[s].visible, s == g.ButtonSeat) << s;
-            EXPECT_EQ(g.RosterBank[s], c.banks[s - 1]) << s;  // the roster waits for the end of the hand
+            SCOPED_TRACE(s);
+            EXPECT_EQ(g.SeatInHand[s], c.banks[s - 1] > 0);
+            EXPECT_EQ(v.lblName[s].visible && v.lblBankDollarSign[s].visible, g.SeatInHand[s]);
+            EXPECT_EQ(v.lblName[s].text, s == 1 ? "You" : "Player " + n(s));
+            EXPECT_EQ(v.iButton[s].visible, s == g.ButtonSeat);
+            EXPECT_EQ(g.RosterBank[s], c.banks[s - 1]);  // the roster waits for the end of the hand
+            EXPECT_FALSE(g.SeatRaised[s] || g.SeatTotalBet[s] || g.WinnerSeats[s] || g.SeatCards[s][0] ||
+                         v.lblPaid[s].visible || v.iArrow[s].visible);
+            EXPECT_EQ(
+                std::tuple(g.StartingHandClass[s], g.SeatHandCode[s], g.SeatHandName[s], v.lblBet[s].visible),
+                std::tuple(9, 200, "", true));
         }
+        // The all-zero deck: second cards eight on from the first, the board 37..33;
+        // faces only for the user's cards and the board.
+        for (int i = 0; i < 52; ++i) EXPECT_EQ(g.Deck[i], i == 0 ? 1 : 53 - i) << i;
+        for (int s = 1; s <= kSeats; ++s)
+            EXPECT_EQ(Join([&](int k) { return n(g.SeatCards[s][k]); }, " ", 2, 7),
+                      (g.SeatCards[s][1] == 1 ? "45" : n(g.SeatCards[s][1] - 8)) + " 37 36 35 34 33");
+        for (int i = 1; i <= 21; ++i)
+            EXPECT_EQ(g.view.icard[i].picture, i == 1   ? g.SeatCards[1][1]
+                                               : i == 9 ? g.SeatCards[1][2]
+                                               : i > 16 ? 54 - i
+                                                        : 0)
+                << i;
+        EXPECT_EQ(test::Cards(g, 1, 21), "");
+        EXPECT_FALSE(v.mnuSave.enabled || v.mnuSaveAs.enabled || v.cmdDeal.visible ||
+                     v.cmdStandings.visible || v.cmdFloor.visible || g.HandIsOver || v.lblHBI.visible);
+        EXPECT_TRUE(v.lblBlind.visible && v.lblGoodLuck.visible && v.lblPot.visible && v.lblPotLabel.visible);
+        EXPECT_EQ(std::tuple(g.HandsPlayed, g.Street, test::Buttons(g)), std::tuple(5, 1, "----"));
+        EXPECT_EQ(v.lblHBI.text + " " + v.lblHBV.text + " " + v.lblPrevious.text,
+                  n(g.HighBetIndex) + " " + n(g.HighBetValue) + " " + n(g.PreviousSeat));
         std::string why;
         EXPECT_TRUE(g.state_is_ok(&why)) << why;
         EXPECT_TRUE(t.DrawsUsedUp());
@@ -87,87 +122,32 @@ TEST(StartHand, ButtonBlindsFirstToActAndDeal) {
     }
 }
 
-TEST(StartHand, TheDealButtonClearsWhatTheLastHandLeft) {
-    TableGame t;
-    Game& g = t.g;
-    View& v = g.view;
-    g.SeatRaised[4] = g.HandIsOver = true;
-    g.SeatTotalBet[5] = 700;
-    g.WinnerSeats[3] = 1;
-    g.SeatHandName[2] = "Two Pair";
-    g.HandsPlayed = 4;
-    g.SeatCards[3][0] = 9;
-    v.lblPaid[2].visible = v.iArrow[6].visible = v.icard[5].visible = v.icard[19].visible = true;
-    v.cmdDeal.visible = v.cmdStandings.visible = v.cmdFloor.visible = v.mnuSave.enabled =
-        v.mnuSaveAs.enabled = true;
-    TableBuilder().ApplyTo(g);
-    g.rnd.Script(std::vector<float>(52, 0.0f));
-    g.cmdDeal_Click();
-
-    EXPECT_EQ(g.HandsPlayed, 5);
-    EXPECT_EQ(g.Street, 1);
-    EXPECT_FALSE(g.HandIsOver);
-    for (int s = 1; s <= 8; ++s) {
-        SCOPED_TRACE(s);
-        EXPECT_FALSE(g.SeatRaised[s] || g.SeatTotalBet[s] || g.WinnerSeats[s] || v.lblPaid[s].visible ||
-                     v.iArrow[s].visible);
-        EXPECT_EQ(g.StartingHandClass[s], 9);
-        EXPECT_EQ(g.SeatHandCode[s], 200);
-        EXPECT_EQ(g.SeatHandName[s], "");
-        EXPECT_EQ(g.SeatCards[s][0], 0);
-        EXPECT_TRUE(v.lblBet[s].visible);
-        EXPECT_EQ(v.lblName[s].text, s == 1 ? "You" : "Player " + std::to_string(s));
-    }
-    for (int i = 1; i <= 21; ++i) EXPECT_FALSE(v.icard[i].visible) << i;
-    EXPECT_FALSE(v.mnuSave.enabled || v.mnuSaveAs.enabled || v.cmdDeal.visible || v.cmdStandings.visible ||
-                 v.cmdFloor.visible);
-    EXPECT_TRUE(v.lblBlind.visible && v.lblGoodLuck.visible && v.lblPot.visible && v.lblPotLabel.visible);
-    EXPECT_EQ(v.lblHBI.text + " " + v.lblHBV.text + " " + v.lblPrevious.text, "3 200 3");
-    EXPECT_FALSE(v.lblHBI.visible);
-    EXPECT_EQ(g.RunningTimer(), TimerDealHole);
-}
-
-TEST(StartHand, AllZeroShuffleLaysOutSecondCardsBoardAndPictures) {
-    TableGame t;
-    t.Start(TableBuilder().Button(8));
-    const Game& g = t.g;
-    for (int i = 0; i < 52; ++i) EXPECT_EQ(g.Deck[i], i == 0 ? 1 : 53 - i) << i;
-    EXPECT_EQ(g.SeatCards[2][2], 45);
-    EXPECT_EQ(g.SeatCards[1][2], 38);
-    for (int s = 1; s <= 8; ++s)
-        for (int k = 3; k <= 7; ++k) EXPECT_EQ(g.SeatCards[s][k], 40 - k) << s << "/" << k;
-    // Faces only for the user's cards and the board.
-    for (int i = 1; i <= 21; ++i)
-        EXPECT_EQ(g.view.icard[i].picture, i == 1 ? 46 : i == 9 ? 38 : i > 16 ? 54 - i : 0) << i;
-}
-
 // 51 * 0.5 = 25.5 rounds to 26, not 25; 50 * 0.25 = 12.5 to the even 12; 5 * 0.7f
 // is 3.5 exactly in single precision (3.49999994 in double) and rounds to 4.
 TEST(StartHand, ShuffleRoundsTheSinglePrecisionProductHalfToEven) {
     TableGame t;
-    TableBuilder().ApplyTo(t.g);
     std::vector<float> draws(52, 0.0f);
     draws[0] = 0.5f;
     draws[1] = 0.25f;
     draws[46] = 0.7f;
+    TableBuilder().ApplyTo(t.g);
     t.g.rnd.Script(draws);
     t.g.StartHand();
     std::vector<int> expected = {27, 13, 1};
     for (int c = 50; c >= 28; --c) expected.push_back(c);
     expected.push_back(52);
     for (int c = 26; c >= 14; --c) expected.push_back(c);
-    expected.push_back(51);
-    for (int c : {12, 11, 10, 9, 8, 5, 7, 6, 4, 3, 2}) expected.push_back(c);
+    for (int c : {51, 12, 11, 10, 9, 8, 5, 7, 6, 4, 3, 2}) expected.push_back(c);
     EXPECT_EQ(std::vector<int>(t.g.Deck.begin(), t.g.Deck.end()), expected);
     EXPECT_TRUE(t.DrawsUsedUp());
 }
 
 TEST(TableBuilder, ShuffleDrawsDealTheChosenCards) {
     TableGame t;
-    TableBuilder().Button(5).ApplyTo(t.g);
     std::array<std::pair<int, int>, 9> holes{};
     holes[1] = {13, 26};
     holes[4] = {2, 15};
+    TableBuilder().Button(5).ApplyTo(t.g);
     t.g.rnd.Script(test::ShuffleDrawsFor(test::DeckFor(6, holes, {40, 41, 42, 43, 44})));
     t.g.StartHand();
     const auto& c = t.g.SeatCards;

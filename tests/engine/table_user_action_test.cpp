@@ -56,8 +56,7 @@ const Turn kTurns[] = {
      "Called $600; H4/600; $9,400 pot 1,200; P1 C2 BetFlop [----] clicks 1"},
     // Bet or raise: the refusals.
     {"all in", 2, 4, 600, 0, {{4, 600}}, {3}, {}, {},
-     "Amount to Call: $600; H4/600; $0 pot 600; P8 C1 none [1.34] T0 M0 B0 clicks 1",
-     "You're all in. You have no more chips to bet!"},
+     "Amount to Call: $600; H4/600; $0 pot 600; P8 C1 none [1.34] T0 M0 B0 clicks 1", "You're all in. You have no more chips to bet!"},
     {"again after the flop", 2, 1, 0, 10000, {}, {3}, {}, {},
      "Amount to Call: $0; H1/0; $10,000 pot 0; P8 C1 none [1.34] T0 M0 B0 clicks 1", "You cannot bet again this round."},
     {"again before the flop after a raise", 1, 1, 600, 10000, {{1, 600}}, {3}, {}, {},
@@ -82,8 +81,7 @@ const Turn kTurns[] = {
     // Fold.
     {"fold to the last opponent", 2, 2, 400, 10000, {{2, 400}}, {4}, {3, 4, 5, 6, 7, 8}, {},
      "Folded; H2/400; $10,000 pot 400; P8 C1 HandOver [----] clicks 1"},
-    {"fold holding the high bet: ties go to the lower seat, folded or not", 1, 1, 200, 10000,
-     {{1, 200}, {2, 100}, {3, 200}, {4, 200}, {6, 200}}, {4}, {3}, {},
+    {"fold holding the high bet: ties go to the lower seat, folded or not", 1, 1, 200, 10000, {{1, 200}, {2, 100}, {3, 200}, {4, 200}, {6, 200}}, {4}, {3}, {},
      "Folded; H3/200; $9,800 pot 900; P1 C2 BetHole [----] clicks 1"},
     {"fold with the high bet elsewhere", 3, 5, 900, 10000, {{5, 900}, {7, 1200}}, {4}, {}, {},
      "Folded; H5/900; $10,000 pot 2,100; P1 C2 BetTurn [----] clicks 1"},
@@ -92,26 +90,17 @@ const Turn kTurns[] = {
 };
 // clang-format on
 
+// Seats 1..8 in the hand with $10,000 (the user `bank`), button on seat 1.
 struct UserTurn : test::TableGame {
     explicit UserTurn(const Turn& c) {
-        Start(TableBuilder().Button(8));  // button 1
-        g.StopHandTimers();
-        g.RosterBank[1] = c.bank;
-        g.Pot = 0;
+        TableBuilder().Bank(1, c.bank).ApplyTo(g);
+        g.PlayersInHand = 8 - static_cast<int16_t>(c.out.size());
+        for (auto [seat, stake] : c.stakes) g.Pot += g.SeatBet[seat] = stake;
         for (int s = 1; s <= kSeats; ++s) {
-            g.SeatBet[s] = 0;
-            g.SeatBank[s] = static_cast<float>(g.RosterBank[s]);
+            g.SeatInHand[s] = std::find(c.out.begin(), c.out.end(), s) == c.out.end();
+            g.SeatBank[s] = static_cast<float>(g.RosterBank[s] - g.SeatBet[s]);
+            g.view.lblBank[s].text = Money(g.RosterBank[s] - g.SeatBet[s]);
         }
-        for (auto [seat, stake] : c.stakes) {
-            g.SeatBet[seat] = stake;
-            g.SeatBank[seat] -= static_cast<float>(stake);
-            g.Pot += stake;
-        }
-        for (int seat : c.out) {
-            g.SeatInHand[seat] = false;
-            --g.PlayersInHand;
-        }
-        for (int s = 1; s <= kSeats; ++s) g.view.lblBank[s].text = Money(static_cast<int32_t>(g.SeatBank[s]));
         g.view.lblPot.text = Money(g.Pot);
         g.view.icard[1].visible = g.view.icard[9].visible = true;
         g.view.mnuSound.checked = c.sound;
@@ -123,20 +112,8 @@ struct UserTurn : test::TableGame {
         g.PreviousSeat = 8;
         g.EnableTimer(TimerId(TimerBetHole + 2 * (c.street - 1)));  // the turn stops it
         g.OpenUserTurn();
-        p.sounds.clear();
-        for (int32_t a : c.answers) p.betAmounts.push_back(a);
+        p.betAmounts.assign(c.answers.begin(), c.answers.end());
         for (int index : c.presses) g.cmdPlay_Click(index);
-    }
-
-    std::string Outcome(bool betPressed) const {
-        auto n = [](int32_t v) { return std::to_string(v); };
-        std::string out = g.view.lblBet[1].text + "; H" + n(g.HighBetIndex) + "/" + n(g.HighBetValue) +
-                          "; $" + g.view.lblBank[1].text + " pot " + g.view.lblPot.text + "; P" +
-                          n(g.PreviousSeat) + " C" + n(g.CurrentSeat) + " " + test::Running(g) + " [" +
-                          test::Buttons(g) + "]";
-        if (betPressed) out += " T" + n(g.ToCallAmount) + " M" + n(g.MaxBetAmount) + " B" + n(g.BetAmount);
-        for (const auto& r : p.betRequests) out += " dialog " + n(r.HighBetIndex) + "/" + n(r.HighBetValue);
-        return out + " clicks " + n(static_cast<int32_t>(p.sounds.size()));
     }
 };
 
@@ -145,20 +122,26 @@ TEST(UserAction, OpeningTheTurnAndEveryPress) {
         SCOPED_TRACE(c.name);
         UserTurn t(c);
         const Game& g = t.g;
-        bool betPressed = std::find(c.presses.begin(), c.presses.end(), 3) != c.presses.end();
-        EXPECT_EQ(t.Outcome(betPressed), c.outcome);
+        auto n = [](int32_t v) { return std::to_string(v); };
+        std::string out = g.view.lblBet[1].text + "; H" + n(g.HighBetIndex) + "/" + n(g.HighBetValue) +
+                          "; $" + g.view.lblBank[1].text + " pot " + g.view.lblPot.text + "; P" +
+                          n(g.PreviousSeat) + " C" + n(g.CurrentSeat) + " " + test::Running(g) + " [" +
+                          test::Buttons(g) + "]";
+        if (std::find(c.presses.begin(), c.presses.end(), 3) != c.presses.end())
+            out += " T" + n(g.ToCallAmount) + " M" + n(g.MaxBetAmount) + " B" + n(g.BetAmount);
+        for (const auto& r : t.p.betRequests) {
+            out += " dialog " + n(r.HighBetIndex) + "/" + n(r.HighBetValue);
+            EXPECT_EQ(std::pair(r.ToCallAmount, r.MaxBetAmount), std::pair(g.ToCallAmount, g.MaxBetAmount));
+        }
+        EXPECT_EQ(out + " clicks " + n(static_cast<int32_t>(t.p.sounds.size())), c.outcome);
         std::string messages;
         for (const auto& m : t.p.messages) {
             messages += m.text;
             EXPECT_TRUE(m.icon == MsgIcon::Information && m.buttons == MsgButtons::OK);
         }
         EXPECT_EQ(messages, c.message);
-        for (const auto& r : t.p.betRequests)
-            EXPECT_EQ(std::pair(r.ToCallAmount, r.MaxBetAmount), std::pair(g.ToCallAmount, g.MaxBetAmount));
-        if (!g.SeatInHand[1]) {
-            EXPECT_FALSE(g.view.icard[1].visible || g.view.icard[9].visible);
-            EXPECT_EQ(g.PlayersInHand, 7 - static_cast<int>(c.out.size()));
-        }
+        // A fold hides the user's cards; the hidden mirrors follow the betting.
+        EXPECT_EQ(g.view.icard[1].visible || g.view.icard[9].visible, g.SeatInHand[1]);
         EXPECT_EQ(g.view.lblHBI.text + " " + g.view.lblHBV.text + " " + g.view.lblPrevious.text,
                   Plain(g.HighBetIndex) + " " + Plain(g.HighBetValue) + " " + Plain(g.PreviousSeat));
         std::string why;

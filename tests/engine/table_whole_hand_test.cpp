@@ -22,7 +22,7 @@ TEST(WholeHand, FourPlayersCallAndCheckDownToTheHandOver) {
     ASSERT_EQ(std::vector<int>({g.ButtonSeat, g.SmallBlindSeat, g.BigBlindSeat, g.CurrentSeat}),
               std::vector<int>({1, 3, 5, 7}));
     EXPECT_EQ(t.RunUntil(TimerBetHole), 8);
-    EXPECT_EQ(test::Visible(g.view.icard, 1, 16), "1 3 5 7 9 11 13 15");
+    EXPECT_EQ(test::Cards(g, 1, 16), "1 3 5 7 9 11 13 15");
 
     t.RunUntil(kTimerCount);  // seat 7 calls, then the user's turn opens
     EXPECT_EQ(Bets(g), "Amount to Call: $200||Small Blind: $100||Large Blind: $200|||");
@@ -42,7 +42,7 @@ TEST(WholeHand, FourPlayersCallAndCheckDownToTheHandOver) {
         t.RunUntil(street == 4 ? TimerHandOver : kTimerCount);
     }
     EXPECT_EQ(Running(g), "HandOver");
-    EXPECT_EQ(test::Visible(g.view.icard, 17, 21), "17 18 19 20 21");
+    EXPECT_EQ(test::Cards(g, 17, 21), "17 18 19 20 21");
     EXPECT_EQ(std::vector<int>({g.Pot, g.CardsDealt, g.CardsKnown}), std::vector<int>({800, 21, 7}));
     EXPECT_TRUE(t.DrawsUsedUp());
     EXPECT_EQ(t.p.sounds.size(), 8u + 5u + 4u);  // the deal, the board, the user's presses

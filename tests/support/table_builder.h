@@ -22,10 +22,10 @@ public:
     TableBuilder();
     // Stacks of seats 1..8 in order; 0 leaves the seat empty.
     TableBuilder& Banks(std::initializer_list<int32_t> banks);
-    TableBuilder& Bank(int seat, int32_t bank);
-    TableBuilder& Name(int seat, std::string name);
-    TableBuilder& Button(int seat);
-    TableBuilder& SmallBlind(int32_t amount);
+    TableBuilder& Bank(int seat, int32_t bank) { return banks_[seat] = bank, *this; }
+    TableBuilder& Name(int seat, std::string name) { return names_[seat] = std::move(name), *this; }
+    TableBuilder& Button(int seat) { return button_ = static_cast<int16_t>(seat), *this; }
+    TableBuilder& SmallBlind(int32_t amount) { return smallBlind_ = amount, *this; }
     void ApplyTo(Game& game) const;
 
 private:
@@ -55,8 +55,6 @@ struct TableGame {
     // Fires the running timer until `until` runs, or none does; returns the
     // ticks. `broken` keeps the first broken invariant seen after a tick.
     int RunUntil(TimerId until);
-    // Fires `id` while it is the running timer.
-    int RunWhile(TimerId id);
     bool DrawsUsedUp() const { return g.rnd.Remaining() == 0 && g.rnd.Overdrawn() == 0; }
 
     ScriptedPlatform p;
@@ -64,11 +62,21 @@ struct TableGame {
     std::string broken;
 };
 
+// f(i) for i from..to, joined by `sep`; empty results are skipped when `skip`.
+template <class F>
+std::string Join(F f, const char* sep = " ", int from = 1, int to = kSeats, bool skip = false) {
+    std::string all;
+    for (int i = from; i <= to; ++i) {
+        std::string one = f(i);
+        if (!skip || !one.empty()) all += (all.empty() && (skip || i == from) ? "" : sep) + one;
+    }
+    return all;
+}
 // lblBet(1..8) joined by '|'.
 std::string Bets(const Game& g);
-// The indexes from..to of a family of elements that are visible, as "3 5 8".
-std::string Visible(const std::array<Element, 9>& family);
-std::string Visible(const std::array<Element, 22>& family, int from, int to);
+// The indexes of icard(from..to), or of iArrow(1..8), that are visible, as "3 5 8".
+std::string Cards(const Game& g, int from, int to);
+std::string Arrows(const Game& g);
 // cmdPlay(1..4): its digit when it can be pressed, '.' shown but disabled, '-' hidden.
 std::string Buttons(const Game& g);
 // "DealHole" .. "HandOver", or "none".
