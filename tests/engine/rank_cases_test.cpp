@@ -14,17 +14,12 @@ namespace {
 void Deal(Game& g, int seat, const std::string& cards) {
     std::istringstream in(cards);
     std::string card;
-    int k = 0;
-    g.SeatInHand[seat] = true;
-    while (in >> card) {
-        if (++k <= 2) {
-            g.SeatCards[seat][k] = test::CardOf(card);
-        } else {
-            g.Deck[kBoardFirst + k - 3] = test::CardOf(card);
-            for (int s = 1; s <= kSeats; ++s) g.SeatCards[s][k] = test::CardOf(card);
-        }
+    for (int k = 1; in >> card; g.CardsKnown = static_cast<int16_t>(k++)) {
+        if (k > 2) g.Deck[kBoardFirst + k - 3] = test::CardOf(card);
+        for (int s = 1; s <= kSeats; ++s)
+            if (k > 2 || s == seat) g.SeatCards[s][k] = test::CardOf(card);
     }
-    g.CardsKnown = static_cast<int16_t>(k);
+    g.SeatInHand[seat] = true;
 }
 
 std::string Best(const Game& g, int seat) {

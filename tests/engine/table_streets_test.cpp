@@ -123,7 +123,7 @@ TEST_F(Streets, EveryoneCallsAndTheUserInTheLargeBlindGetsTheOption) {
     EXPECT_EQ(Bets(g) + " " + Running(g) + " " + test::Buttons(g), "Amount to Call: $0||||||| none 1.34");
     EXPECT_TRUE(DrawsUsedUp());
     g.cmdPlay_Click(1);
-    EXPECT_EQ(g.view.lblBet[1].text + " " + Running(g), "Checked DealFlop");
+    EXPECT_EQ(g.view.lblBet[1].text + " " + Running(g) + " " + test::Buttons(g), "Checked DealFlop ----");
 }
 
 TEST_F(Streets, TheSearchPassesAllInSeatsButStopsAtAnAllInHighBet) {

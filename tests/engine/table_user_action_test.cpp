@@ -134,6 +134,7 @@ TEST(UserAction, OpeningTheTurnAndEveryPress) {
             EXPECT_EQ(std::pair(r.ToCallAmount, r.MaxBetAmount), std::pair(g.ToCallAmount, g.MaxBetAmount));
         }
         EXPECT_EQ(out + " clicks " + n(static_cast<int32_t>(t.p.sounds.size())), c.outcome);
+        for (const auto& sound : t.p.sounds) EXPECT_EQ(sound, "BUTTONCLICK");
         std::string messages;
         for (const auto& m : t.p.messages) {
             messages += m.text;
