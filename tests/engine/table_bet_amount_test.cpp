@@ -5,77 +5,116 @@
 namespace holdem {
 namespace {
 
-const BetAmountRequest kRaise{4, 600, 600, 5050};  // $600 to call out of $5,050
-const BetAmountRequest kBet{0, 0, 0, 3000};        // nobody has bet; $3,000
-const BetAmountRequest kChecked{3, 0, 0, 3000};    // seat 3 checked: HighBetIndex set, nothing to call
-const BetAmountRequest kRich{2, 2'000'000'000, 2'000'000'000, 2'147'483'000};
+// Facing a bet: $600 to call out of a stack of $5,050.
+const BetAmountRequest kRaise{4, 600, 600, 5050};
+// Nobody has bet on this street: a stack of $3,000.
+const BetAmountRequest kBet{0, 0, 0, 3000};
 
-// "close <BetAmount>", or the message (its title when not the game's), its
-// icon, and whether the box is emptied.
-std::string Describe(const BetAmountOutcome& out) {
-    if (out.close) return out.message ? "close with a message?" : "close " + std::to_string(out.betAmount);
-    if (!out.message || out.betAmount != 0) return "stays without a message?";
-    const BetAmountMessage& m = *out.message;
-    return m.text + (m.title == "Texas Hold'em" ? "" : " [" + m.title + "]") +
-           (m.icon == MsgIcon::Information ? " (i)"
-            : m.icon == MsgIcon::None      ? ""
-                                           : " (?)") +
-           (out.clearText ? " cleared" : "");
+void ExpectStays(const BetAmountOutcome& out, const std::string& text, const std::string& title, MsgIcon icon,
+                 bool clearText) {
+    ASSERT_TRUE(out.message.has_value());
+    EXPECT_EQ(out.message->text, text);
+    if (!title.empty()) {
+        EXPECT_EQ(out.message->title, title);
+    }
+    EXPECT_EQ(out.message->icon, icon);
+    EXPECT_EQ(out.clearText, clearText);
+    EXPECT_FALSE(out.close);
+    EXPECT_EQ(out.betAmount, 0);
 }
 
-const std::string kNoBet = "No bet entered cleared";
-const std::string kHundreds = "You must bet in multiples of $100. (i)";
-const std::string kOver5050 = "You've only got $5,050. [Bet Exceeds Your Chip Stack] (i) cleared";
-const std::string kOver3000 = "You've only got $3,000. [Bet Exceeds Your Chip Stack] (i) cleared";
-
-struct Entry {
-    const BetAmountRequest& request;
-    bool enter;  // the Enter key rather than cmdOK
-    const char* text;
-    std::string outcome;
-};
-
-// clang-format off
-const Entry kEntries[] = {
-    {kRaise, 0, "", kNoBet}, {kRaise, 0, "0", kNoBet}, {kRaise, 0, "000", kNoBet}, {kRaise, 0, "150", kHundreds},
-    {kRaise, 0, "50", kHundreds}, {kRaise, 0, "1", kHundreds}, {kRaise, 0, "1001", kHundreds},
-    {kRaise, 0, "4450", kHundreds},  // what Bet Max fills in for a stack of $5,050
-    {kRaise, 0, "100", "close 700"},  // $100 even against a far higher call
-    {kRaise, 0, "4400", "close 5000"}, {kRaise, 0, "4500", kOver5050},  // the whole stack, not the raise
-    {kBet, 0, "3000", "close 3000"}, {kBet, 0, "0100", "close 100"}, {kChecked, 0, "500", "close 500"},
-    {kBet, 0, "3100", kOver3000}, {kBet, 0, "2147483700", kOver3000}, {kBet, 0, "4294967300", kOver3000},
-    {kBet, 0, "99999999999999999999999999999900", kOver3000}, {kBet, 0, "99999999999999999999999999999950", kHundreds},
-    {kRich, 0, "2147483600", "You've only got $2,147,483,000. [Bet Exceeds Your Chip Stack] (i) cleared"},
-    {kBet, 0, "-100", kHundreds}, {kBet, 0, "1e3", kHundreds}, {kBet, 0, "1,000", kHundreds}, {kBet, 0, " 100", kHundreds},
-    {kBet, 0, "abc", kHundreds}, {kRaise, 1, "", "No bet entered"}, {kRaise, 1, "0", "close 0"},
-    {kRaise, 1, "200", "close 800"}, {kRaise, 1, "250", kHundreds}, {kRaise, 1, "9900", kOver5050},
-};
-// clang-format on
-
-TEST(BetAmount, OkAndEnter) {
-    for (const Entry& e : kEntries)
-        EXPECT_EQ(Describe(e.enter ? BetAmountEnter(e.request, e.text) : BetAmountOk(e.request, e.text)),
-                  e.outcome)
-            << (e.enter ? "Enter " : "OK ") << '"' << e.text << '"';
+void ExpectCloses(const BetAmountOutcome& out, int32_t betAmount) {
+    EXPECT_FALSE(out.message.has_value());
+    EXPECT_TRUE(out.close);
+    EXPECT_EQ(out.betAmount, betAmount);
 }
 
-TEST(BetAmount, OpensInRaiseOrBetMode) {
-    auto layout = [](const BetAmountRequest& r) {
-        BetAmountLayout l = BetAmountOpen(r);
-        return l.title + "|" + l.lblBetAmount + "|" + (l.toCallVisible ? l.lblToCallAmount : "-") + "|" +
-               l.lblMaxRaise + "|" + l.lblMaxRaiseAmount + "|" + BetAmountMaxText(r);
-    };
-    EXPECT_EQ(layout(kRaise),
-              "Enter Raise Amount|How much do you want to raise?|$600|Max Raise (All In):|$4,450|4450");
-    EXPECT_EQ(layout(BetAmountRequest{0, 0, 0, 1234567}),
-              "Enter Bet Amount|How much do you want to bet?|-|Max Bet (All In):|$1,234,567|1234567");
+TEST(BetAmount, OpensInRaiseModeWhenThereIsABet) {
+    BetAmountLayout layout = BetAmountOpen(kRaise);
+    EXPECT_EQ(layout.title, "Enter Raise Amount");
+    EXPECT_EQ(layout.lblBetAmount, "How much do you want to raise?");
+    EXPECT_TRUE(layout.toCallVisible);
+    EXPECT_EQ(layout.lblToCallAmount, "$600");
+    EXPECT_EQ(layout.lblMaxRaise, "Max Raise (All In):");
+    EXPECT_EQ(layout.lblMaxRaiseAmount, "$4,450");
+}
+
+TEST(BetAmount, OpensInBetModeWhenNobodyHasBet) {
+    BetAmountLayout layout = BetAmountOpen(BetAmountRequest{0, 0, 0, 1234567});
+    EXPECT_EQ(layout.title, "Enter Bet Amount");
+    EXPECT_EQ(layout.lblBetAmount, "How much do you want to bet?");
+    EXPECT_FALSE(layout.toCallVisible);
+    EXPECT_EQ(layout.lblMaxRaise, "Max Bet (All In):");
+    EXPECT_EQ(layout.lblMaxRaiseAmount, "$1,234,567");
 }
 
 TEST(BetAmount, OnlyDigitsBackspaceAndEnterGetThrough) {
-    std::string through;
-    for (int c = 1; c < 128; ++c)
-        if (BetAmountKeyAllowed(static_cast<char>(c))) through += static_cast<char>(c);
-    EXPECT_EQ(through, "\b\r0123456789");
+    for (char c = '0'; c <= '9'; ++c) EXPECT_TRUE(BetAmountKeyAllowed(c)) << c;
+    EXPECT_TRUE(BetAmountKeyAllowed('\b'));
+    EXPECT_TRUE(BetAmountKeyAllowed('\r'));
+    for (char c : {'-', '+', '.', ',', ' ', 'a', 'e', '$', '\t', '\n', '/', ':'})
+        EXPECT_FALSE(BetAmountKeyAllowed(c)) << static_cast<int>(c);
+}
+
+TEST(BetAmount, BetMaxFillsInTheRaiseOnTopOfTheCall) {
+    EXPECT_EQ(BetAmountMaxText(kRaise), "4450");
+    EXPECT_EQ(BetAmountMaxText(kBet), "3000");
+}
+
+TEST(BetAmount, OkRefusesNothingAndEmptiesTheBox) {
+    ExpectStays(BetAmountOk(kRaise, ""), "No bet entered", "", MsgIcon::None, true);
+    ExpectStays(BetAmountOk(kRaise, "0"), "No bet entered", "", MsgIcon::None, true);
+    ExpectStays(BetAmountOk(kRaise, "000"), "No bet entered", "", MsgIcon::None, true);
+}
+
+TEST(BetAmount, OkRefusesAmountsThatAreNotWholeHundreds) {
+    for (const char* text : {"150", "50", "1", "4450", "1001", "99"})
+        ExpectStays(BetAmountOk(kRaise, text), "You must bet in multiples of $100.", "", MsgIcon::Information,
+                    false);
+}
+
+TEST(BetAmount, OkAddsTheCallToTheTypedRaise) {
+    ExpectCloses(BetAmountOk(kRaise, "100"), 700);  // $100 even when the call is far higher
+    ExpectCloses(BetAmountOk(kRaise, "4400"), 5000);
+    ExpectCloses(BetAmountOk(kBet, "3000"), 3000);
+    ExpectCloses(BetAmountOk(kBet, "0100"), 100);
+    // After a check HighBetIndex is set although nothing is to call.
+    ExpectCloses(BetAmountOk(BetAmountRequest{3, 0, 0, 3000}, "500"), 500);
+}
+
+TEST(BetAmount, OkRefusesMoreThanTheStackWithTheWholeStack) {
+    ExpectStays(BetAmountOk(kRaise, "4500"), "You've only got $5,050.", "Bet Exceeds Your Chip Stack",
+                MsgIcon::Information, true);
+    ExpectStays(BetAmountOk(kBet, "3100"), "You've only got $3,000.", "Bet Exceeds Your Chip Stack",
+                MsgIcon::Information, true);
+}
+
+TEST(BetAmount, ANumberTooLargeFor32BitsIsOverTheStack) {
+    for (const char* text : {"2147483700", "4294967300", "99999999999999999999999999999900"})
+        ExpectStays(BetAmountOk(kBet, text), "You've only got $3,000.", "Bet Exceeds Your Chip Stack",
+                    MsgIcon::Information, true);
+    // The call on top of the largest 32-bit hundreds must not wrap round.
+    const BetAmountRequest rich{2, 2'000'000'000, 2'000'000'000, 2'147'483'000};
+    ExpectStays(BetAmountOk(rich, "2147483600"), "You've only got $2,147,483,000.",
+                "Bet Exceeds Your Chip Stack", MsgIcon::Information, true);
+    ExpectStays(BetAmountOk(kBet, "99999999999999999999999999999950"), "You must bet in multiples of $100.",
+                "", MsgIcon::Information, false);
+}
+
+TEST(BetAmount, PastedTextIsRefusedWithoutHarm) {
+    for (const char* text : {"-100", "1e3", "1,000", " 100", "abc"})
+        ExpectStays(BetAmountOk(kBet, text), "You must bet in multiples of $100.", "", MsgIcon::Information,
+                    false);
+}
+
+TEST(BetAmount, EnterDiffersFromOkOnAnEmptyBoxAndOnZero) {
+    ExpectStays(BetAmountEnter(kRaise, ""), "No bet entered", "", MsgIcon::None, false);
+    ExpectCloses(BetAmountEnter(kRaise, "0"), 0);
+    ExpectCloses(BetAmountEnter(kRaise, "200"), 800);
+    ExpectStays(BetAmountEnter(kRaise, "250"), "You must bet in multiples of $100.", "", MsgIcon::Information,
+                false);
+    ExpectStays(BetAmountEnter(kRaise, "9900"), "You've only got $5,050.", "Bet Exceeds Your Chip Stack",
+                MsgIcon::Information, true);
 }
 
 }  // namespace

@@ -13,22 +13,46 @@ TableBuilder::TableBuilder() {
 }
 
 TableBuilder& TableBuilder::Banks(std::initializer_list<int32_t> banks) {
-    std::copy_n(banks.begin(), std::min<std::size_t>(banks.size(), kSeats), banks_.begin() + 1);
+    int s = 1;
+    for (int32_t b : banks)
+        if (s <= kSeats) banks_[s++] = b;
+    return *this;
+}
+
+TableBuilder& TableBuilder::Bank(int seat, int32_t bank) {
+    banks_[seat] = bank;
+    return *this;
+}
+
+TableBuilder& TableBuilder::Name(int seat, std::string name) {
+    names_[seat] = std::move(name);
+    return *this;
+}
+
+TableBuilder& TableBuilder::Button(int seat) {
+    button_ = static_cast<int16_t>(seat);
+    return *this;
+}
+
+TableBuilder& TableBuilder::SmallBlind(int32_t amount) {
+    smallBlind_ = amount;
     return *this;
 }
 
 void TableBuilder::ApplyTo(Game& game) const {
+    int players = 0;
     for (int s = 1; s <= kSeats; ++s) {
         game.RosterNumber[s] = static_cast<int16_t>(s);
-        game.RosterName[s] = game.SeatName[s] = names_[s];
+        game.RosterName[s] = names_[s];
         game.RosterBank[s] = banks_[s];
         game.RosterPlace[s] = 0;
+        game.SeatName[s] = names_[s];
+        if (banks_[s] > 0) ++players;
     }
     game.ButtonSeat = button_;
     game.SmallBlind = smallBlind_;
     game.TournamentSize = kSeats;
-    game.PlayersLeft = static_cast<int16_t>(
-        std::count_if(banks_.begin() + 1, banks_.end(), [](int32_t b) { return b > 0; }));
+    game.PlayersLeft = static_cast<int16_t>(players);
     game.TablesInPlay = 1;
 }
 
@@ -36,13 +60,21 @@ std::vector<float> ShuffleDrawsFor(const std::vector<int>& front) {
     std::array<int, kDeckSize> pool{};
     for (int i = 0; i < kDeckSize; ++i) pool[i] = i + 1;
     std::vector<float> draws;
-    for (int i = 0, k = kDeckSize - 1; i < kDeckSize; ++i, --k) {
-        int j = i < static_cast<int>(front.size())
-                    ? static_cast<int>(std::find(pool.begin(), pool.end(), front[i]) - pool.begin())
-                    : 0;
-        if (j > k) throw std::invalid_argument("card twice in the deck");
-        // j / k rounds back to j; j = k needs a draw just below 1.
-        draws.push_back(k == 0 ? 0.0f : static_cast<float>(j < k ? j : k - 0.25f) / static_cast<float>(k));
+    for (int i = 0; i < kDeckSize; ++i) {
+        int k = kDeckSize - 1 - i;
+        int j = 0;
+        if (i < static_cast<int>(front.size())) {
+            auto at = std::find(pool.begin(), pool.begin() + k + 1, front[i]);
+            if (at == pool.begin() + k + 1) throw std::invalid_argument("card twice in the deck");
+            j = static_cast<int>(at - pool.begin());
+        }
+        float draw = 0.0f;
+        if (k > 0)
+            draw = j < k ? static_cast<float>(j) / static_cast<float>(k)
+                         : (static_cast<float>(k) - 0.25f) / static_cast<float>(k);
+        if (static_cast<int>(RoundHalfEven(static_cast<float>(k) * draw)) != j)
+            throw std::logic_error("no draw for the wanted card");
+        draws.push_back(draw);
         pool[j] = pool[k];
     }
     return draws;
@@ -54,17 +86,21 @@ std::vector<int> DeckFor(int button, const std::array<std::pair<int, int>, 9>& h
     std::array<bool, kDeckSize + 1> used{};
     auto take = [&used](int card) {
         if (card < 1 || card > kDeckSize || used[card]) throw std::invalid_argument("bad or repeated card");
-        return used[card] = true, card;
+        used[card] = true;
+        return card;
     };
     for (int p = 1; p <= kSeats; ++p) {
-        const auto& [first, second] = holes[(button + p - 1) % kSeats + 1];
-        if (first != 0) deck[p - 1] = take(first);
-        if (second != 0) deck[p + 7] = take(second);
+        int seat = (button + p - 1) % kSeats + 1;
+        if (holes[seat].first != 0) deck[p - 1] = take(holes[seat].first);
+        if (holes[seat].second != 0) deck[p + 7] = take(holes[seat].second);
     }
     for (int k = 0; k < 5; ++k) deck[kBoardFirst + k] = take(board[k]);
-    for (int& card : deck)
-        for (int spare = kDeckSize; card == 0; --spare)
-            if (!used[spare]) card = take(spare);
+    int spare = kDeckSize;
+    for (int& card : deck) {
+        if (card != 0) continue;
+        while (used[spare]) --spare;
+        card = take(spare);
+    }
     return deck;
 }
 
@@ -72,50 +108,6 @@ std::vector<float> Draws(std::initializer_list<std::vector<float>> parts) {
     std::vector<float> all;
     for (const auto& part : parts) all.insert(all.end(), part.begin(), part.end());
     return all;
-}
-
-void TableGame::Start(const TableBuilder& table, const std::vector<float>& then) {
-    table.ApplyTo(g);
-    g.rnd.Script(Draws({std::vector<float>(kDeckSize, 0.0f), then}));
-    g.StartHand();
-}
-
-int TableGame::RunUntil(TimerId until) {
-    int ticks = 0;
-    for (TimerId id; (id = g.RunningTimer()) != until && id != kTimerCount && ticks < 500; ++ticks) {
-        g.FireTimer(id);
-        std::string why;
-        if (broken.empty() && !g.state_is_ok(&why)) broken = why;
-    }
-    return ticks;
-}
-
-std::string Bets(const Game& g) {
-    return Join([&](int s) { return g.view.lblBet[s].text; }, "|");
-}
-
-std::string Cards(const Game& g, int from, int to) {
-    return Join([&](int i) { return g.view.icard[i].visible ? std::to_string(i) : ""; }, " ", from, to, true);
-}
-
-std::string Arrows(const Game& g) {
-    return Join([&](int s) { return g.view.iArrow[s].visible ? std::to_string(s) : ""; }, " ", 1, kSeats,
-                true);
-}
-
-std::string Buttons(const Game& g) {
-    return Join(
-        [&](int i) {
-            const Element& b = g.view.cmdPlay[i];
-            return std::string(1, !b.visible ? '-' : b.enabled ? static_cast<char>('0' + i) : '.');
-        },
-        "", 1, 4);
-}
-
-std::string Running(const Game& g) {
-    static const char* const kNames[] = {"DealHole", "BetHole",   "DealFlop", "BetFlop",  "DealTurn",
-                                         "BetTurn",  "DealRiver", "BetRiver", "HandOver", "none"};
-    return kNames[g.RunningTimer()];
 }
 
 }  // namespace holdem::test
