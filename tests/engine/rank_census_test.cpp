@@ -6,24 +6,13 @@
 #include <cstdint>
 
 #include "engine/game_state.h"
+#include "tests/support/hand_builder.h"
 #include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
 
-enum Class { HighCard, OnePair, TwoPairs, Trips, Straight, Flush, FullHouse, Quads, StraightFlush, kClasses };
-
-Class ClassOfCode(int code) {
-    if (code <= 10) return StraightFlush;
-    if (code <= 23) return Quads;
-    if (code <= 36) return FullHouse;
-    if (code == 37) return Flush;
-    if (code <= 47) return Straight;
-    if (code <= 60) return Trips;
-    if (code <= 138) return TwoPairs;
-    if (code <= 151) return OnePair;
-    return HighCard;
-}
+using namespace test;
 
 TEST(RankCensus, AllFiveCardHandsFallIntoTheKnownClasses) {
     test::ScriptedPlatform p;
@@ -31,7 +20,7 @@ TEST(RankCensus, AllFiveCardHandsFallIntoTheKnownClasses) {
     g.rnd.Script({});
     g.SeatInHand[1] = true;
     g.CardsKnown = 5;
-    std::array<int64_t, kClasses> count{};
+    std::array<int64_t, kCategories> count{};
     std::array<int64_t, 201> byCode{};
     int64_t hands = 0;
     for (int a = 1; a <= 52; ++a) {
@@ -49,7 +38,7 @@ TEST(RankCensus, AllFiveCardHandsFallIntoTheKnownClasses) {
                         ASSERT_GE(code, 1);
                         ASSERT_LE(code, 199);
                         ++byCode[code];
-                        ++count[ClassOfCode(code)];
+                        ++count[CategoryOfCode(code)];
                         ++hands;
                     }
                 }
@@ -58,8 +47,8 @@ TEST(RankCensus, AllFiveCardHandsFallIntoTheKnownClasses) {
     }
     EXPECT_EQ(hands, 2598960);
     EXPECT_EQ(count[HighCard], 1302540);
-    EXPECT_EQ(count[OnePair], 1098240);
-    EXPECT_EQ(count[TwoPairs], 123552);
+    EXPECT_EQ(count[Pair], 1098240);
+    EXPECT_EQ(count[TwoPair], 123552);
     EXPECT_EQ(count[Trips], 54912);
     EXPECT_EQ(count[Straight], 10200);
     EXPECT_EQ(count[Flush], 5108);

@@ -11,12 +11,14 @@
 #include <vector>
 
 #include "engine/game_state.h"
+#include "tests/support/hand_builder.h"
 #include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
 
-enum Category { HighCard, Pair, TwoPair, Trips, Straight, Flush, FullHouse, Quads, StraightFlush };
+using Category = test::HandCategory;
+using namespace test;
 
 // Category in the top bits, then the deciding ranks (2..14) four bits each.
 using Value = uint32_t;
@@ -94,18 +96,6 @@ bool FourAces(Value v) { return (v & 0xFF0000u) == kFourAces; }
 int Expected(Value a, Value b) {
     if (FourAces(a) && FourAces(b)) return 0;
     return a > b ? 1 : a < b ? -1 : 0;
-}
-
-Category CategoryOfCode(int code) {
-    if (code <= 10) return StraightFlush;
-    if (code <= 23) return Quads;
-    if (code <= 36) return FullHouse;
-    if (code == 37) return Flush;
-    if (code <= 47) return Straight;
-    if (code <= 60) return Trips;
-    if (code <= 138) return TwoPair;
-    if (code <= 151) return Pair;
-    return HighCard;
 }
 
 // Deals `seats` hands and a board from `deck` many times and checks every

@@ -30,4 +30,18 @@ void EmptyTable(Game& g, int16_t tournamentSize = 8);
 // The river is out: rank every seat as the deal timer would.
 void RankRiver(Game& g);
 
+// The nine classes of poker hands, weakest first, and the class of a hand code.
+enum HandCategory { HighCard, Pair, TwoPair, Trips, Straight, Flush, FullHouse, Quads, StraightFlush, kCategories };
+inline HandCategory CategoryOfCode(int code) {
+    if (code <= 10) return StraightFlush;
+    if (code <= 23) return Quads;
+    if (code <= 36) return FullHouse;
+    if (code == 37) return Flush;
+    if (code <= 47) return Straight;
+    if (code <= 60) return Trips;
+    if (code <= 138) return TwoPair;
+    if (code <= 151) return Pair;
+    return HighCard;
+}
+
 }  // namespace holdem::test
