@@ -1,5 +1,6 @@
 # The two commands of the README: `make run` and `make test`.
 BUILD   ?= build
+PREFIX  ?= /usr/local
 JOBS    ?= $(shell nproc 2>/dev/null || echo 2)
 SUDO    := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
@@ -8,9 +9,10 @@ PACKAGES := g++ cmake make libgtest-dev \
             qt6-base-dev qt6-multimedia-dev libqt6multimedia6 \
             gstreamer1.0-plugins-base gstreamer1.0-plugins-good \
             xvfb xauth \
+            desktop-file-utils appstream strace dpkg-dev file \
             fonts-liberation fonts-urw-base35 fonts-dejavu-core fonts-lobster
 
-.PHONY: all deps configure build test run bench format clean pictures sounds
+.PHONY: all deps configure build test run bench format clean pictures sounds install uninstall package
 
 all: build
 
@@ -44,6 +46,21 @@ run: build
 
 bench: build
 	$(BUILD)/bin/holdem-sim --bench
+
+# `sudo make install` puts the game under PREFIX (DESTDIR is honoured);
+# `sudo make uninstall` removes what it put there.
+install: build
+	DESTDIR=$(DESTDIR) cmake --install $(BUILD) --prefix $(PREFIX) --strip
+
+uninstall:
+	@test -f $(BUILD)/install_manifest.txt || { echo "Nothing installed from $(BUILD)."; exit 1; }
+	xargs -d '\n' rm -f < $(BUILD)/install_manifest.txt
+	find $$(sed -n 's|\(/share/holdem\)/.*|\1|p' $(BUILD)/install_manifest.txt | sort -u) \
+	  -depth -type d -empty -delete 2>/dev/null || true
+
+# A Debian package of the game in $(BUILD), for `apt-get install ./holdem_*.deb`.
+package: build
+	cd $(BUILD) && cpack -G DEB
 
 # Redraw the committed pictures and sounds; a normal build never does. The sound
 # script installs sox and espeak-ng itself: they are tools of the generator only.

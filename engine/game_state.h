@@ -81,6 +81,10 @@ public:
     // Per-user data folder with a trailing separator, for settings.dft and
     // stnd.dat where AppFolder is not writable; the window sets it.
     std::string UserDataFolder;
+    // An installed AppFolder is shared by every user of the machine and never
+    // written, even where it could be: settings.dft and stnd.dat then live in
+    // UserDataFolder alone, and the shipped settings.dft is only the default.
+    bool InstalledCopy = false;
     int16_t CallChance = 0;
     int16_t RaiseChance = 0;
 

@@ -46,6 +46,23 @@ void WriteSettingsTo(const Game& g, const std::string& path) {
     out.Commit();
 }
 
+// False when the file could not be written; the per-user folder is made first.
+bool TryWriteSettings(const Game& g, const std::string& path) {
+    if (path.empty()) return false;
+    try {
+        if (path == UserSettingsPath(g)) {
+            std::error_code ec;
+            std::filesystem::create_directories(
+                std::u8string(g.UserDataFolder.begin(), g.UserDataFolder.end()), ec);
+        }
+        WriteSettingsTo(g, path);
+        return true;
+    } catch (const std::exception&) {
+        // Settings are a convenience: an exit is never held up by them.
+        return false;
+    }
+}
+
 }  // namespace
 
 void Game::SetGameSpeed() {
@@ -60,7 +77,7 @@ void Game::SetGameSpeed() {
 }
 
 // A settings file in the per-user folder exists only because AppFolder could
-// not be written, so it is the newer one. A missing or unreadable file gives
+// not or may not be written, so it is the newer one. A missing or unreadable file gives
 // the values the menus show before any file is read: nothing here may keep
 // the program from starting.
 void Game::ReadSettings() {
@@ -89,26 +106,11 @@ void Game::ReadSettings() {
 // Once the settings live in the per-user folder they stay there; otherwise
 // they go to AppFolder, and to the per-user folder when AppFolder refuses.
 void Game::WriteSettings() {
-    std::string userPath = UserSettingsPath(*this);
-    std::string appPath = AppFolder + kSettingsFile;
-    bool userFirst = FileExists(userPath);
-    const std::string& first = userFirst ? userPath : appPath;
-    const std::string& second = userFirst ? appPath : userPath;
-    try {
-        WriteSettingsTo(*this, first);
-        return;
-    } catch (const std::exception&) {
-    }
-    try {
-        if (!userFirst && !UserDataFolder.empty()) {
-            std::error_code ec;
-            std::filesystem::create_directories(std::u8string(UserDataFolder.begin(), UserDataFolder.end()),
-                                                ec);
-        }
-        WriteSettingsTo(*this, second);
-    } catch (const std::exception&) {
-        // Settings are a convenience: an exit is never held up by them.
-    }
+    const std::string userPath = UserSettingsPath(*this);
+    const std::string appPath = InstalledCopy ? std::string() : AppFolder + kSettingsFile;
+    const bool userFirst = InstalledCopy || FileExists(userPath);
+    if (!TryWriteSettings(*this, userFirst ? userPath : appPath))
+        TryWriteSettings(*this, userFirst ? appPath : userPath);
 }
 
 void Game::mnuFastSpeed_Click() {

@@ -11,27 +11,36 @@ namespace {
 
 const char* const kStandingsFile = "stnd.dat";
 
-// Writes stnd.dat in full; where AppFolder cannot be written it goes to the
-// per-user folder and StandingsPath follows it there. False when neither works.
-bool WriteStandings(Game& g) {
-    if (g.StandingsPath.empty()) g.StandingsPath = g.AppFolder + kStandingsFile;
+std::string UserStandingsPath(const Game& g) {
+    return g.UserDataFolder.empty() ? std::string() : g.UserDataFolder + kStandingsFile;
+}
+
+// Writes stnd.dat in full at path, which becomes StandingsPath; the per-user
+// folder is made first.
+bool TryWriteStandings(Game& g, const std::string& path) {
+    if (path.empty()) return false;
     try {
-        WriteRosterFile(g, g.StandingsPath);
-        return true;
-    } catch (const FileError&) {
-    }
-    std::string userPath = g.UserDataFolder.empty() ? std::string() : g.UserDataFolder + kStandingsFile;
-    if (userPath.empty() || userPath == g.StandingsPath) return false;
-    try {
-        std::error_code ec;
-        std::filesystem::create_directories(std::u8string(g.UserDataFolder.begin(), g.UserDataFolder.end()),
-                                            ec);
-        WriteRosterFile(g, userPath);
-        g.StandingsPath = userPath;
+        if (path == UserStandingsPath(g)) {
+            std::error_code ec;
+            std::filesystem::create_directories(
+                std::u8string(g.UserDataFolder.begin(), g.UserDataFolder.end()), ec);
+        }
+        WriteRosterFile(g, path);
+        g.StandingsPath = path;
         return true;
     } catch (const FileError&) {
         return false;
     }
+}
+
+// Where AppFolder cannot or may not be written, stnd.dat goes to the per-user
+// folder and StandingsPath follows it there. False when neither works.
+bool WriteStandings(Game& g) {
+    const std::string userPath = UserStandingsPath(g);
+    if (g.InstalledCopy) g.StandingsPath = userPath;
+    if (g.StandingsPath.empty() && !g.InstalledCopy) g.StandingsPath = g.AppFolder + kStandingsFile;
+    return TryWriteStandings(g, g.StandingsPath) ||
+           (userPath != g.StandingsPath && TryWriteStandings(g, userPath));
 }
 
 bool PrepareView(Game& g, const char* title) {

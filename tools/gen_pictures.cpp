@@ -2,12 +2,14 @@
 // twice the size the window shows it, so that it stays sharp when Qt scales it.
 // The output is deterministic: no clock, no unseeded randomness, fixed fonts.
 //
-//   gen_pictures [output folder] [--preview FILE]
+//   gen_pictures [output folder] [--preview FILE] [--icons FOLDER]
 //
+// --icons names where the desktop icons go: holdem.svg and holdem_<size>.png.
 // --preview also writes a composed table with cards, buttons and arrows placed
 // where the window puts them, to check that the seats fit the table.
 
 #include <QDir>
+#include <QFile>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -15,6 +17,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QTextDocument>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -743,12 +746,140 @@ QImage drawLogo() {
     return canvas.finish();
 }
 
-QImage drawIcon() {
-    Canvas canvas(48, 48);
-    QPainter& p = canvas.p();
-    drawRedChipFace(p, QPointF(24, 24), 22.5, true);
-    return canvas.finish();
+// ---- The program's icon -------------------------------------------------------
+// Two aces and a chip as filled shapes on a square of kIconUnits, so that the
+// same shapes give the scalable desktop icon and every bitmap size. The smallest
+// sizes show the chip alone: the cards would be a blur there.
+
+constexpr double kIconUnits = 256;
+const std::array<int, 8> kIconSizes = {16, 22, 24, 32, 48, 64, 128, 256};
+constexpr int kLargestPlainChipIcon = 24;
+const QColor kIconWhite(250, 250, 246);
+
+struct Shape {
+    QPainterPath path;
+    QColor colour;
+};
+
+void addSuit(std::vector<Shape>& shapes, Suit suit, const QTransform& at, QPointF centre, double size,
+             const QColor& colour) {
+    QTransform t;
+    t.translate(centre.x(), centre.y());
+    t.scale(size, size);
+    t.translate(-0.5, -0.5);
+    for (const QPainterPath& part : suitShape(suit)) shapes.push_back({(t * at).map(part), colour});
 }
+
+void addAce(std::vector<Shape>& shapes, Suit suit, QPointF pivot, double angle) {
+    QTransform at;
+    at.translate(pivot.x(), pivot.y());
+    at.rotate(angle);
+    const QRectF card(-56, -180, 112, 160);
+    QPainterPath edge, body, rank;
+    edge.addRoundedRect(card.adjusted(-4, -4, 4, 4), 15, 15);
+    body.addRoundedRect(card, 11, 11);
+    QFont font("Liberation Sans");
+    font.setPixelSize(44);
+    font.setBold(true);
+    rank.addText(card.left() + 9, card.top() + 42, font, "A");
+    shapes.push_back({at.map(edge), QColor(64, 64, 70)});
+    shapes.push_back({at.map(body), kIconWhite});
+    shapes.push_back({at.map(rank), suitColour(suit)});
+    addSuit(shapes, suit, at, QPointF(card.left() + 22, card.top() + 60), 24, suitColour(suit));
+    addSuit(shapes, suit, at, card.center() + QPointF(6, 14), 72, suitColour(suit));
+}
+
+QPainterPath disc(QPointF centre, double radius) {
+    QPainterPath path;
+    path.addEllipse(centre, radius, radius);
+    return path;
+}
+
+void addChip(std::vector<Shape>& shapes, QPointF centre, double r, bool shadow) {
+    if (shadow) shapes.push_back({disc(centre + QPointF(3, 6), r), QColor(0, 0, 0, 80)});
+    shapes.push_back({disc(centre, r), QColor(110, 6, 12)});
+    shapes.push_back({disc(centre, r * 0.93), QColor(204, 24, 32)});
+    const QRectF outer(centre - QPointF(r * 0.93, r * 0.93), QSizeF(r * 1.86, r * 1.86));
+    const QRectF inner(centre - QPointF(r * 0.68, r * 0.68), QSizeF(r * 1.36, r * 1.36));
+    for (int k = 0; k < 6; ++k) {
+        const double from = k * 60 + 15, span = 30;
+        QPainterPath spot;
+        spot.arcMoveTo(outer, from);
+        spot.arcTo(outer, from, span);
+        spot.arcTo(inner, from + span, -span);
+        spot.closeSubpath();
+        shapes.push_back({spot, kIconWhite});
+    }
+    shapes.push_back({disc(centre, r * 0.6), kIconWhite});
+    shapes.push_back({disc(centre, r * 0.53), QColor(204, 24, 32)});
+    addSuit(shapes, kSpades, QTransform(), centre, r * 0.62, kIconWhite);
+}
+
+std::vector<Shape> iconShapes(int pixels) {
+    std::vector<Shape> shapes;
+    if (pixels <= kLargestPlainChipIcon) {
+        addChip(shapes, QPointF(128, 128), 126, false);
+        return shapes;
+    }
+    addAce(shapes, kHearts, QPointF(100, 236), -14);
+    addAce(shapes, kSpades, QPointF(118, 236), 10);
+    addChip(shapes, QPointF(184, 190), 60, true);
+    // Centred, and as large as the square allows with a small margin.
+    QRectF bounds;
+    for (const Shape& shape : shapes) bounds |= shape.path.boundingRect();
+    const double margin = 6, scale = (kIconUnits - 2 * margin) / std::max(bounds.width(), bounds.height());
+    QTransform fit;
+    fit.translate(kIconUnits / 2, kIconUnits / 2);
+    fit.scale(scale, scale);
+    fit.translate(-bounds.center().x(), -bounds.center().y());
+    for (Shape& shape : shapes) shape.path = fit.map(shape.path);
+    return shapes;
+}
+
+QImage drawIconAt(int pixels) {
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.scale(pixels / kIconUnits, pixels / kIconUnits);
+    p.setPen(Qt::NoPen);
+    for (const Shape& shape : iconShapes(pixels)) {
+        p.setBrush(shape.colour);
+        p.drawPath(shape.path);
+    }
+    return image;
+}
+
+QString svgNumber(double v) { return QString::number(std::round(v * 100) / 100, 'g', 8); }
+
+QString svgPathData(const QPainterPath& path) {
+    QString d;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element e = path.elementAt(i);
+        const char* command = e.isMoveTo() ? "M" : e.isLineTo() ? "L" : e.isCurveTo() ? "C" : " ";
+        d += command + svgNumber(e.x) + " " + svgNumber(e.y);
+    }
+    return d;
+}
+
+QByteArray drawIconSvg() {
+    QString svg = QString(
+                      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" height=\"%1\" "
+                      "viewBox=\"0 0 %1 %1\">\n")
+                      .arg(kIconUnits);
+    for (const Shape& shape : iconShapes(int(kIconUnits))) {
+        svg += QString("<path fill=\"%1\"").arg(shape.colour.name());
+        if (shape.colour.alpha() < 255)
+            svg += QString(" fill-opacity=\"%1\"").arg(svgNumber(shape.colour.alphaF()));
+        if (shape.path.fillRule() == Qt::OddEvenFill) svg += " fill-rule=\"evenodd\"";
+        svg += " d=\"" + svgPathData(shape.path) + "\"/>\n";
+    }
+    return (svg + "</svg>\n").toUtf8();
+}
+
+// The window's own icon is the same picture.
+QImage drawIcon() { return drawIconAt(48 * kScale); }
 
 QImage drawTipBulb() {
     Canvas canvas(32, 32);
@@ -907,6 +1038,15 @@ bool save(const QImage& image, const QString& folder, const QString& name, bool 
     return true;
 }
 
+bool saveIcons(const QString& folder) {
+    if (!QDir().mkpath(folder)) return false;
+    bool ok = true;
+    for (int pixels : kIconSizes)
+        ok &= save(drawIconAt(pixels), folder, QString("holdem_%1.png").arg(pixels));
+    QFile svg(folder + "/holdem.svg");
+    return ok && svg.open(QIODevice::WriteOnly | QIODevice::Truncate) && svg.write(drawIconSvg()) > 0;
+}
+
 bool fontsPresent() {
     const QStringList families = QFontDatabase::families();
     for (const char* family : {"Liberation Sans", "Liberation Sans Narrow", "Liberation Serif"}) {
@@ -925,10 +1065,13 @@ int main(int argc, char** argv) {
     QGuiApplication app(argc, argv);
     QString folder = HOLDEM_PICTURES_DIR;
     QString previewPath;
+    QString iconFolder = HOLDEM_ICONS_DIR;
     const QStringList args = app.arguments();
     for (int i = 1; i < args.size(); ++i) {
         if (args[i] == "--preview" && i + 1 < args.size()) {
             previewPath = args[++i];
+        } else if (args[i] == "--icons" && i + 1 < args.size()) {
+            iconFolder = args[++i];
         } else {
             folder = args[i];
         }
@@ -954,6 +1097,7 @@ int main(int argc, char** argv) {
     ok &= save(drawLogo(), folder, "logo.png");
     ok &= save(drawIcon(), folder, "icon.png");
     ok &= save(drawTipBulb(), folder, "tip.png");
+    ok &= saveIcons(iconFolder);
     const std::array<QSize, 4> pageSizes = {QSize(401, 478), QSize(397, 425), QSize(406, 365),
                                             QSize(402, 407)};
     const std::array<QString, 4> pageFiles = {"help1.png", "help2.png", "rules1.png", "rules2.png"};

@@ -1,6 +1,8 @@
 // The program: the main window, started in its order, and the event loop.
 #include <QApplication>
+#include <QDir>
 #include <QEvent>
+#include <QFileInfo>
 #include <QIcon>
 #include <QTimer>
 #include <cstdio>
@@ -47,6 +49,16 @@ private:
     bool fired_ = false;
 };
 
+// The shipped files: <prefix>/share/holdem/ beside an installed <prefix>/bin/,
+// found from the executable so that a moved install still works; otherwise the
+// executable's own folder, where the build copies them.
+std::string DataFolder(bool& installed) {
+    const QDir bin(QCoreApplication::applicationDirPath());
+    const QString shared = QDir::cleanPath(bin.absoluteFilePath(QStringLiteral("../share/holdem")));
+    installed = QFileInfo(shared + QStringLiteral("/gamedata.dat")).isFile();
+    return (installed ? shared : bin.absolutePath()).toStdString();
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -55,7 +67,12 @@ int main(int argc, char* argv[]) {
     QApplication::setOrganizationName(QStringLiteral("Corvane"));
     QApplication::setApplicationName(QStringLiteral("holdem"));
 
-    holdem::frmMain window(QApplication::applicationDirPath().toStdString());
+    // Ties the window to its desktop entry and icon where the desktop asks.
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.corvane.holdem"));
+
+    bool installed = false;
+    holdem::frmMain window(DataFolder(installed));
+    window.game.InstalledCopy = installed;
     QPixmap icon = holdem::kit::LoadPicture(window.game.AppFolder, QStringLiteral("icon.png"));
     if (!icon.isNull()) QApplication::setWindowIcon(QIcon(icon));
     for (int i = 1; i < argc; ++i)

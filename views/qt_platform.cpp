@@ -1,9 +1,11 @@
 #include "views/qt_platform.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QStandardPaths>
 
 #include "sound/sound.h"
 #include "views/frm_about.h"
@@ -48,6 +50,18 @@ std::string DefaultSuffix(const std::string& filter) {
     return S(pattern.mid(dot + 1));
 }
 
+namespace {
+
+// An installed copy's folder is shared and read-only: saved games start in the
+// user's documents instead.
+QString DialogFolder(const Game& game, const std::string& folder) {
+    if (!game.InstalledCopy) return Q(folder);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+}  // namespace
+
 QtPlatform::QtPlatform(frmMain* window) : window_(window) {}
 QtPlatform::~QtPlatform() = default;
 
@@ -84,7 +98,8 @@ MsgAnswer QtPlatform::MessageBox(const std::string& text, const std::string& tit
 }
 
 std::optional<std::string> QtPlatform::OpenFileDialog(const FileDialogRequest& request) {
-    QFileDialog dialog(Owner(), Q(request.title), Q(request.folder), Q(QtFileFilter(request.filter)));
+    QFileDialog dialog(Owner(), Q(request.title), DialogFolder(window_->game, request.folder),
+                       Q(QtFileFilter(request.filter)));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
@@ -94,7 +109,7 @@ std::optional<std::string> QtPlatform::OpenFileDialog(const FileDialogRequest& r
 
 std::optional<std::string> QtPlatform::SaveFileDialog(const FileDialogRequest& request) {
     QString suffix = Q(DefaultSuffix(request.filter));
-    QString folder = Q(request.folder);
+    QString folder = DialogFolder(window_->game, request.folder);
     for (;;) {
         QFileDialog dialog(Owner(), Q(request.title), folder, Q(QtFileFilter(request.filter)));
         dialog.setOption(QFileDialog::DontUseNativeDialog);

@@ -134,6 +134,25 @@ TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolder) {
     EXPECT_EQ(ReadAll(dir.File("settings.dft")), "3,#TRUE#,#TRUE#\r\n");
 }
 
+// An installed copy never writes its own folder, even where it could.
+TEST_F(SettingsTest, InstalledCopyWritesOnlyTheUserFolder) {
+    WriteAll(dir.File("settings.dft"), "3,#TRUE#,#FALSE#\r\n");
+    g.InstalledCopy = true;
+    g.UserDataFolder = dir.File("user/data") + "/";
+    g.StandingsPath = g.AppFolder + "stnd.dat";
+    g.ReadSettings();
+    EXPECT_EQ(std::make_tuple(g.GameSpeed, g.TipsAtStartup), std::make_tuple(3, false));
+    g.mnuFastSpeed_Click();
+    g.WriteSettings();
+    FillRoster(g, 8);
+    g.cmdStandings_Click();
+    EXPECT_EQ(ReadAll(dir.File("settings.dft")), "3,#TRUE#,#FALSE#\r\n");
+    EXPECT_FALSE(std::filesystem::exists(dir.File("stnd.dat")));
+    EXPECT_EQ(ReadAll(dir.File("user/data/settings.dft")), "1,#TRUE#,#FALSE#\r\n");
+    EXPECT_EQ(p.standings, std::vector<std::string>{dir.File("user/data/stnd.dat")});
+    EXPECT_EQ(ReadAll(p.standings.at(0)).substr(0, 11), "8,0,0,0\r\n1,");
+}
+
 TEST_F(SettingsTest, StandingsAndFloorWriteTheWholeRosterFirst) {
     g.StandingsPath = dir.File("stnd.dat");
     g.mnuStandings_Click();
