@@ -23,7 +23,7 @@ for size in 16 22 24 32 48 64 128 256; do
     f=share/icons/hicolor/${size}x$size/apps/holdem.png
     file -b "$root/$f" | grep -q "PNG image data, $size x $size," || fail "$f is not a $size-pixel PNG"
 done
-(cd "$source/assets" && find . -type f) | while read -r f; do
+(cd "$source/assets" && find . -type f ! -name '.*') | while read -r f; do
     cmp -s "$source/assets/$f" "$root/share/holdem/$f" || fail "share/holdem/$f is missing or differs"
 done
 
