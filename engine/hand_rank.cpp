@@ -16,7 +16,6 @@ namespace holdem {
 
 namespace {
 
-constexpr int kSuitBits = 4;
 // Suit nibbles plus these carry into bit 3 of a nibble at five (a flush) or
 // at four cards of the suit.
 constexpr uint32_t kFiveOfASuit = 0x3333;
@@ -24,14 +23,16 @@ constexpr uint32_t kFourOfASuit = 0x4444;
 constexpr uint32_t kNibbleTops = 0x8888;
 constexpr int kFirstHighCard = 152;
 constexpr int kFourToASuit = 152;
+constexpr uint32_t kRankMask = (1u << kRankBits) - 1;
 
-// Written out, not looped: this copy is a third of a river seat's work.
+// Written out, not looped: the copy is a large part of a river seat's work.
 template <std::size_t... K>
-void CopyRanks(int16_t* to, const uint8_t* from, std::index_sequence<K...>) {
-    ((to[K + 1] = from[K + 1]), ...);
+void UnpackRanks(int16_t* to, uint32_t ranks, std::index_sequence<K...>) {
+    ((to[K + 1] = static_cast<int16_t>((ranks >> (kRankBits * K)) & kRankMask)), ...);
 }
 
 bool IsCard(int c) { return static_cast<unsigned>(c - 1) < static_cast<unsigned>(kDeckSize); }
+uint64_t Bit(int card) { return uint64_t{1} << card; }
 
 // The arranged list of a flush: the suited cards swapped to the front in the
 // order met, then those sorted, highest first; the rest stay where the swaps
@@ -46,19 +47,17 @@ void ArrangeFlush(Game& g, int s, const int (&cards)[kHandCardsMax + 1], int sui
         for (int j = i; j > 1 && rank[j] > rank[j - 1]; --j) std::swap(rank[j], rank[j - 1]);
 }
 
-// A seat with five or more cards of one suit: the id of its name, 0 where
-// the tables do not know the hand.
+// A seat with five or more cards of one suit; 0 where the tables do not know
+// the hand.
 int RankFlush(Game& g, const HandRankTables& t, int s, int n, const int (&cards)[kHandCardsMax + 1],
               uint32_t fiveBits) {
-    int suit = std::countr_zero(fiveBits) / kSuitBits;
+    int suit = std::countr_zero(fiveBits) / kRankBits;
     unsigned suited = 0;
     for (int k = 1; k <= n; ++k)
-        if (SuitOf(cards[k]) == suit) suited |= 1u << RankOf(cards[k]);
-    int code = t.flushCode[suited];
-    if (code == 0) return 0;
-    if (n == kHandCardsMax) ArrangeFlush(g, s, cards, suit);
-    g.SeatHandCode[s] = static_cast<int16_t>(code);
-    return t.flushName[suited];
+        if (SuitOf(cards[k]) == suit) suited |= 1u << (RankOf(cards[k]) - 1);
+    int code = t.flush[suited];
+    if (code != 0 && n == kHandCardsMax) ArrangeFlush(g, s, cards, suit);
+    return code;
 }
 
 }  // namespace
@@ -67,50 +66,60 @@ void Game::RankHands() {
     const int n = CardsKnown;
     if (n < 5 || n > kHandCardsMax) return RankHandsReference(*this);
     const HandRankTables& t = HandRankTablesInUse();
+    const RankPatternTable& patterns = t.bySize[n];
+    if (!patterns.complete) return RankHandsReference(*this);
     const bool river = n == kHandCardsMax;
+    // Every key the tables are asked for must be a real pattern: that holds
+    // for distinct cards.
     int cards[kHandCardsMax + 1] = {};
-    uint64_t board = 0;
+    uint64_t board = 0, dealt = 0;
     for (int k = 3; k <= n; ++k) {
         cards[k] = Deck[kBoardFirst + k - 3];
-        if (!IsCard(cards[k])) return RankHandsReference(*this);
+        if (!IsCard(cards[k]) || (dealt & Bit(cards[k])) != 0) return RankHandsReference(*this);
+        dealt |= Bit(cards[k]);
         board += t.cardKey[cards[k]];
     }
-    const RankPatternTable& patterns = t.bySize[n];
-    // Names are written after all the look-ups: a string copy between them
-    // would hold them back.
-    uint8_t name[kSeats + 1] = {};
+    // First every seat's slot, then every seat's hand: the look-ups of the
+    // eight seats go to memory together. Codes and names are written last,
+    // as a string copy between look-ups would hold them back.
+    constexpr uint32_t kNoSlot = UINT32_MAX;
+    uint32_t slot[kSeats + 1];
+    uint32_t suits[kSeats + 1];
+    int code[kSeats + 1] = {};
     for (int s = 1; s <= kSeats; ++s) {
+        slot[s] = kNoSlot;
         SeatHandCode[s] = kNoHand;
         if (!SeatInHand[s]) continue;
         cards[1] = SeatCards[s][1];
         cards[2] = SeatCards[s][2];
-        if (!IsCard(cards[1]) || !IsCard(cards[2])) {
+        if (!IsCard(cards[1]) || !IsCard(cards[2]) || cards[1] == cards[2] ||
+            (dealt & (Bit(cards[1]) | Bit(cards[2]))) != 0) {
             RankSeatReference(*this, s);
             continue;
         }
         const uint64_t key = board + t.cardKey[cards[1]] + t.cardKey[cards[2]];
-        const uint32_t suits = static_cast<uint32_t>(key >> kSuitShift);
-        const uint32_t rankKey = static_cast<uint32_t>(key);
-        if (uint32_t five = (suits + kFiveOfASuit) & kNibbleTops; five != 0) {
-            name[s] = static_cast<uint8_t>(RankFlush(*this, t, s, n, cards, five));
-            if (name[s] == 0) RankSeatReference(*this, s);
+        suits[s] = static_cast<uint32_t>(key >> kSuitShift);
+        if (uint32_t five = (suits[s] + kFiveOfASuit) & kNibbleTops; five != 0) {
+            code[s] = RankFlush(*this, t, s, n, cards, five);
+            if (code[s] == 0) RankSeatReference(*this, s);
             continue;
         }
-        const RankPatternSlot& hand = patterns.Find(rankKey);
-        if (hand.key != rankKey) {
-            RankSeatReference(*this, s);
-            continue;
-        }
-        int code = hand.code;
-        // The river makes every high-card hand 199 whatever its suits.
-        if (!river && code >= kFirstHighCard && ((suits + kFourOfASuit) & kNibbleTops) != 0)
-            code = kFourToASuit;
-        name[s] = hand.name;
-        if (river) CopyRanks(SeatBestRanks[s], hand.ranks, std::make_index_sequence<kHandCardsMax>{});
-        SeatHandCode[s] = static_cast<int16_t>(code);
+        slot[s] = patterns.Find(static_cast<uint32_t>(key));
     }
-    for (int s = 1; s <= kSeats; ++s)
-        if (name[s] != 0) SeatHandName[s] = kHandNames[name[s]];
+    for (int s = 1; s <= kSeats; ++s) {
+        if (slot[s] == kNoSlot) continue;
+        code[s] = patterns.code[slot[s]];
+        // The river makes every high-card hand 199 whatever its suits.
+        if (!river && code[s] >= kFirstHighCard && ((suits[s] + kFourOfASuit) & kNibbleTops) != 0)
+            code[s] = kFourToASuit;
+        if (river)
+            UnpackRanks(SeatBestRanks[s], patterns.ranks[slot[s]], std::make_index_sequence<kHandCardsMax>{});
+    }
+    for (int s = 1; s <= kSeats; ++s) {
+        if (code[s] == 0) continue;
+        SeatHandCode[s] = static_cast<int16_t>(code[s]);
+        if (int name = t.nameOfCode[code[s]]; name != 0) SeatHandName[s] = kHandNames[name];
+    }
 }
 
 // Codes below this tie outright: the straight flushes and four Aces.

@@ -1,9 +1,8 @@
 // Hand ranking in two forms. The reference follows the rules step by step:
 // groups, selection sorts, the category table. RankHands answers from tables
 // built once, at first use, by running the reference over every rank pattern,
-// so the two cannot disagree; a hand the tables do not hold (a flush whose
-// suited ranks they do not know, a card out of range, an odd CardsKnown) goes
-// to the reference.
+// so the two cannot disagree. A hand the tables do not hold (a card out of
+// range or dealt twice, an odd CardsKnown) goes to the reference.
 #pragma once
 
 #include <array>
@@ -37,44 +36,48 @@ void RankHandsReference(Game& g);
 // ---- The tables -------------------------------------------------------------
 
 // A card's key: the rank counts as base-5 digits in the low half (5^(rank-1)
-// per card), the suit counts as nibbles in the high half. Keys of a hand add
-// up without carries for up to seven cards of distinct ranks and suits.
+// per card), the suit counts as nibbles in the high half. The keys of
+// distinct cards add up without carries.
 constexpr int kSuitShift = 32;
+constexpr int kRankBits = 4;
 
-// Rank patterns of one hand size, by a perfect hash of the low half.
-struct RankPatternSlot {
-    uint32_t key = UINT32_MAX;  // no pattern has this key
-    uint8_t code = 0;
-    uint8_t name = 0;
-    uint8_t ranks[kHandCardsMax + 1] = {};  // arranged, 1..7, as BestRanks
-};
-
+// The rank patterns of one hand size, found by a perfect hash of the rank
+// key: a bucket by one hash, then a slot by a second hash moved by the
+// bucket's displacement. Only keys of real patterns may be looked up, so the
+// slots hold no key. Small, because every street of every table reads it.
 struct RankPatternTable {
     uint32_t slots = 0;
     uint32_t buckets = 0;
-    const uint32_t* displacement = nullptr;
-    const RankPatternSlot* slot = nullptr;
+    bool complete = false;                  // every pattern placed
+    const uint16_t* tryOfBucket = nullptr;  // displacement = try * kDisplacementStep
+    const uint8_t* code = nullptr;
+    const uint32_t* ranks = nullptr;  // seven cards only: arranged ranks 1..7, kRankBits each
 
-    const RankPatternSlot& Find(uint32_t key) const {
-        uint32_t bucket = static_cast<uint32_t>((static_cast<uint64_t>(BucketHash(key)) * buckets) >> 32);
-        uint32_t h = SlotHash(key) ^ displacement[bucket];
-        return slot[(static_cast<uint64_t>(h) * slots) >> 32];
+    static constexpr uint32_t kDisplacementStep = 0x9E3779B9u;
+
+    uint32_t Bucket(uint32_t key) const { return Scale(Hash(key, 0x9E3779B97F4A7C15ull), buckets); }
+    uint32_t Slot(uint32_t key, uint32_t displacement) const {
+        return Scale(Hash(key, 0xC2B2AE3D27D4EB4Full) ^ displacement, slots);
     }
-    static uint32_t BucketHash(uint32_t key) {
-        return static_cast<uint32_t>((key * 0x9E3779B97F4A7C15ull) >> 32);
+    uint32_t Find(uint32_t key) const { return Slot(key, tryOfBucket[Bucket(key)] * kDisplacementStep); }
+
+private:
+    static uint32_t Hash(uint32_t key, uint64_t multiplier) {
+        return static_cast<uint32_t>((key * multiplier) >> 32);
     }
-    static uint32_t SlotHash(uint32_t key) {
-        return static_cast<uint32_t>((key * 0xC2B2AE3D27D4EB4Full) >> 32);
+    static uint32_t Scale(uint32_t h, uint32_t n) {
+        return static_cast<uint32_t>((static_cast<uint64_t>(h) * n) >> 32);
     }
 };
 
 struct HandRankTables {
     std::array<uint64_t, 53> cardKey{};  // by card 1..52
     RankPatternTable bySize[kHandCardsMax + 1];
-    // Flushes by the mask of suited ranks (bit r for rank r): code, 0 where
-    // the reference must decide.
-    std::array<uint8_t, 1u << 14> flushCode{};
-    std::array<uint8_t, 1u << 14> flushName{};
+    // Flush codes by the suited ranks, bit r - 1 for rank r; 0 where the
+    // reference must decide.
+    std::array<uint8_t, 1u << 13> flush{};
+    // The name goes with the code; the tables hold codes alone, to stay small.
+    std::array<uint8_t, 256> nameOfCode{};
     std::size_t bytes = 0;
     double buildMilliseconds = 0;
 };

@@ -4,10 +4,7 @@
 //
 // A hand with no flush ranks the same whatever its suits and order, save the
 // four-to-a-suit code, which RankHands adds itself: so each rank pattern is
-// ranked once, dealt round the suits so that no suit holds four. The patterns
-// of one size are found by a perfect hash: a bucket by one hash, and within
-// it a slot by a second hash moved by the bucket's displacement, chosen here
-// so that no two patterns share a slot.
+// ranked once, dealt round the suits so that no suit holds four.
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -24,15 +21,16 @@ namespace {
 constexpr int kRanks = 13;
 constexpr int kSuits = 4;
 constexpr int kSmallestHand = 5;
-constexpr int kSuitBits = 4;
-// A bucket's displacements are tried in this order until its patterns fit.
-constexpr uint32_t kDisplacementStep = 0x9E3779B9u;
-constexpr uint32_t kMaxTries = 1u << 20;
+// Buckets of four patterns on average, slots for ten in nine.
+constexpr std::size_t kPatternsPerBucket = 4;
+constexpr std::size_t kSlots = 10, kPerPatterns = 9;
+constexpr uint32_t kMaxTries = UINT16_MAX;
 constexpr uint32_t kMaxBucket = 64;
 
 struct Pattern {
     uint32_t key;
-    RankPatternSlot slot;
+    uint8_t code;
+    uint32_t ranks;
 };
 
 constexpr auto kPower5 = [] {
@@ -42,11 +40,32 @@ constexpr auto kPower5 = [] {
     return p;
 }();
 
+// Records the name of each code met, and whether every code has one name.
+class NameOfCode {
+public:
+    explicit NameOfCode(std::array<uint8_t, 256>& names) : names_(names) {}
+    uint8_t operator()(const HandRanking& r) {
+        auto code = static_cast<uint8_t>(r.code);
+        if (seen_[code] && names_[code] != r.name) agree_ = false;
+        seen_[code] = true;
+        names_[code] = static_cast<uint8_t>(r.name);
+        return code;
+    }
+    bool Agree() const { return agree_; }
+
+private:
+    std::array<uint8_t, 256>& names_;
+    std::array<bool, 256> seen_{};
+    bool agree_ = true;
+};
+
 // Every way of holding n cards with at most four of a rank, ranked. The cards
 // go round the suits in rank order, so no suit holds four of up to seven.
 class PatternWalk {
 public:
-    PatternWalk(int n, std::vector<Pattern>& out) : n_(n), out_(out) { Visit(1, n, 0, 0); }
+    PatternWalk(int n, NameOfCode& names, std::vector<Pattern>& out) : n_(n), names_(names), out_(out) {
+        Visit(1, n, 0, 0);
+    }
 
 private:
     void Visit(int rank, int left, int dealt, uint32_t key) {
@@ -61,88 +80,110 @@ private:
     void Rank(uint32_t key) {
         HandRanking ranked;
         RankCardsReference(cards_, n_, n_ == kHandCardsMax, ranked);
-        RankPatternSlot slot{key, static_cast<uint8_t>(ranked.code), static_cast<uint8_t>(ranked.name)};
-        for (int k = 1; k <= kHandCardsMax; ++k) slot.ranks[k] = static_cast<uint8_t>(ranked.ranks[k]);
-        out_.push_back({key, slot});
+        uint32_t ranks = 0;
+        for (int k = 1; k <= kHandCardsMax; ++k)
+            ranks |= static_cast<uint32_t>(ranked.ranks[k]) << (kRankBits * (k - 1));
+        out_.push_back({key, names_(ranked), ranks});
     }
 
     int n_;
+    NameOfCode& names_;
     std::vector<Pattern>& out_;
     int16_t cards_[kHandCardsMax + 1] = {};
 };
 
 struct PatternStore {
-    std::vector<uint32_t> displacement;
-    std::vector<RankPatternSlot> slots;
+    std::vector<uint16_t> tryOfBucket;
+    std::vector<uint8_t> code;
+    std::vector<uint32_t> ranks;
+
+    std::size_t Bytes() const {
+        return tryOfBucket.size() * sizeof(uint16_t) + code.size() + ranks.size() * sizeof(uint32_t);
+    }
 };
 
-// Biggest buckets first, each at the first displacement that lands all its
-// patterns on free slots. A bucket that finds none is left out, and its
-// patterns go to the reference.
-void PlacePatterns(const std::vector<Pattern>& patterns, PatternStore& store, RankPatternTable& table) {
-    table.buckets = static_cast<uint32_t>(patterns.size() / 4 + 1);
-    table.slots = static_cast<uint32_t>(patterns.size() + patterns.size() / 4 + 1);
-    store.displacement.assign(table.buckets, 0);
-    store.slots.assign(table.slots, RankPatternSlot{});
+// The patterns grouped by bucket: those of bucket b are member[first[b]] up
+// to member[first[b + 1]].
+struct Buckets {
+    std::vector<uint32_t> first, member;
+};
 
-    // The patterns grouped by bucket, and the buckets by falling size.
-    std::vector<uint32_t> first(table.buckets + 1, 0);
+Buckets GroupByBucket(const std::vector<Pattern>& patterns, const RankPatternTable& table) {
+    Buckets g;
+    g.first.assign(table.buckets + 1, 0);
+    g.member.resize(patterns.size());
     std::vector<uint32_t> bucketOf(patterns.size());
     for (std::size_t i = 0; i < patterns.size(); ++i) {
-        bucketOf[i] = static_cast<uint32_t>(
-            (static_cast<uint64_t>(RankPatternTable::BucketHash(patterns[i].key)) * table.buckets) >> 32);
-        ++first[bucketOf[i] + 1];
+        bucketOf[i] = table.Bucket(patterns[i].key);
+        ++g.first[bucketOf[i] + 1];
     }
-    for (uint32_t b = 0; b < table.buckets; ++b) first[b + 1] += first[b];
-    std::vector<uint32_t> member(patterns.size());
-    std::vector<uint32_t> fill(first.begin(), first.end() - 1);
-    for (std::size_t i = 0; i < patterns.size(); ++i) member[fill[bucketOf[i]]++] = static_cast<uint32_t>(i);
+    for (uint32_t b = 0; b < table.buckets; ++b) g.first[b + 1] += g.first[b];
+    std::vector<uint32_t> fill(g.first.begin(), g.first.end() - 1);
+    for (std::size_t i = 0; i < patterns.size(); ++i)
+        g.member[fill[bucketOf[i]]++] = static_cast<uint32_t>(i);
+    return g;
+}
+
+// Biggest buckets first, each at the first displacement that lands all its
+// patterns on free slots. Should a bucket find none, the table is left
+// incomplete and RankHands asks the reference for that hand size.
+void PlacePatterns(const std::vector<Pattern>& patterns, bool river, PatternStore& store,
+                   RankPatternTable& table) {
+    table.buckets = static_cast<uint32_t>(patterns.size() / kPatternsPerBucket + 1);
+    table.slots = static_cast<uint32_t>(patterns.size() * kSlots / kPerPatterns + 1);
+    store.tryOfBucket.assign(table.buckets, 0);
+    store.code.assign(table.slots, 0);
+    store.ranks.assign(river ? table.slots : 0, 0);
+    table.tryOfBucket = store.tryOfBucket.data();
+    table.code = store.code.data();
+    table.ranks = river ? store.ranks.data() : nullptr;
+
+    const Buckets g = GroupByBucket(patterns, table);
+    auto size = [&](uint32_t b) { return g.first[b + 1] - g.first[b]; };
     std::vector<uint32_t> order(table.buckets);
     for (uint32_t b = 0; b < table.buckets; ++b) order[b] = b;
-    auto size = [&](uint32_t b) { return first[b + 1] - first[b]; };
     std::stable_sort(order.begin(), order.end(), [&](uint32_t a, uint32_t b) { return size(a) > size(b); });
 
     std::vector<uint8_t> taken(table.slots, 0);
     uint32_t trial[kMaxBucket];
+    table.complete = true;
     for (uint32_t b : order) {
         const uint32_t n = size(b);
         if (n == 0) break;
-        if (n > kMaxBucket) continue;
-        for (uint32_t t = 0; t < kMaxTries; ++t) {
-            const uint32_t d = t * kDisplacementStep;
-            uint32_t placed = 0;
-            for (; placed < n; ++placed) {
-                uint32_t h = RankPatternTable::SlotHash(patterns[member[first[b] + placed]].key) ^ d;
-                uint32_t s = static_cast<uint32_t>((static_cast<uint64_t>(h) * table.slots) >> 32);
-                if (taken[s] || std::find(trial, trial + placed, s) != trial + placed) break;
-                trial[placed] = s;
+        bool placed = false;
+        for (uint32_t t = 0; t <= kMaxTries && n <= kMaxBucket && !placed; ++t) {
+            uint32_t k = 0;
+            for (; k < n; ++k) {
+                uint32_t s = table.Slot(patterns[g.member[g.first[b] + k]].key, t * table.kDisplacementStep);
+                if (taken[s] || std::find(trial, trial + k, s) != trial + k) break;
+                trial[k] = s;
             }
-            if (placed != n) continue;
-            store.displacement[b] = d;
+            if (k != n) continue;
+            placed = true;
+            store.tryOfBucket[b] = static_cast<uint16_t>(t);
             for (uint32_t i = 0; i < n; ++i) {
+                const Pattern& p = patterns[g.member[g.first[b] + i]];
                 taken[trial[i]] = 1;
-                store.slots[trial[i]] = patterns[member[first[b] + i]].slot;
+                store.code[trial[i]] = p.code;
+                if (river) store.ranks[trial[i]] = p.ranks;
             }
-            break;
         }
+        table.complete = table.complete && placed;
     }
-    table.displacement = store.displacement.data();
-    table.slot = store.slots.data();
 }
 
 // Every suited rank set of five to seven cards, as one suit would hold it.
-void FillFlushes(HandRankTables& t) {
-    for (unsigned mask = 0; mask < t.flushCode.size(); ++mask) {
+void FillFlushes(HandRankTables& t, NameOfCode& names) {
+    for (unsigned mask = 0; mask < t.flush.size(); ++mask) {
         int n = std::popcount(mask);
-        if ((mask & 1u) != 0 || n < kSmallestHand || n > kHandCardsMax) continue;
+        if (n < kSmallestHand || n > kHandCardsMax) continue;
         int16_t cards[kHandCardsMax + 1] = {};
         int k = 0;
         for (int r = 1; r <= kRanks; ++r)
-            if (mask & (1u << r)) cards[++k] = static_cast<int16_t>(r);
+            if (mask & (1u << (r - 1))) cards[++k] = static_cast<int16_t>(r);
         HandRanking ranked;
         RankCardsReference(cards, n, false, ranked);
-        t.flushCode[mask] = static_cast<uint8_t>(ranked.code);
-        t.flushName[mask] = static_cast<uint8_t>(ranked.name);
+        t.flush[mask] = names(ranked);
     }
 }
 
@@ -154,17 +195,18 @@ struct TableStore {
         auto start = std::chrono::steady_clock::now();
         HandRankTables& t = tables;
         for (int c = 1; c <= kDeckSize; ++c)
-            t.cardKey[c] = kPower5[RankOf(c) - 1] | (uint64_t{1} << (kSuitShift + kSuitBits * SuitOf(c)));
-        t.bytes = sizeof t.cardKey + sizeof t.flushCode + sizeof t.flushName;
+            t.cardKey[c] = kPower5[RankOf(c) - 1] | (uint64_t{1} << (kSuitShift + kRankBits * SuitOf(c)));
+        t.bytes = sizeof t.cardKey + sizeof t.flush;
+        NameOfCode names(t.nameOfCode);
         std::vector<Pattern> patterns;
         for (int n = kSmallestHand; n <= kHandCardsMax; ++n) {
             patterns.clear();
-            PatternWalk(n, patterns);
-            PlacePatterns(patterns, bySize[n], t.bySize[n]);
-            t.bytes += bySize[n].displacement.size() * sizeof(uint32_t) +
-                       bySize[n].slots.size() * sizeof(RankPatternSlot);
+            PatternWalk(n, names, patterns);
+            PlacePatterns(patterns, n == kHandCardsMax, bySize[n], t.bySize[n]);
+            t.bytes += bySize[n].Bytes();
         }
-        FillFlushes(t);
+        FillFlushes(t, names);
+        for (RankPatternTable& table : t.bySize) table.complete = table.complete && names.Agree();
         t.buildMilliseconds =
             std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
     }
