@@ -79,15 +79,15 @@ void Game::RankHands() {
         dealt |= Bit(cards[k]);
         board += t.cardKey[cards[k]];
     }
-    // First every seat's slot, then every seat's hand: the look-ups of the
-    // eight seats go to memory together. Codes and names are written last,
-    // as a string copy between look-ups would hold them back.
-    constexpr uint32_t kNoSlot = UINT32_MAX;
-    uint32_t slot[kSeats + 1];
-    uint32_t suits[kSeats + 1];
-    int code[kSeats + 1] = {};
+    // First the slots of all seats, then their codes: the look-ups go to
+    // memory together. The seats found by the tables are listed, so the later
+    // passes do not test each seat again. Names are written last, as a string
+    // copy between look-ups would hold them back.
+    int listed = 0;
+    int seatOf[kSeats];
+    uint32_t slot[kSeats], suits[kSeats];
+    int code[kSeats];
     for (int s = 1; s <= kSeats; ++s) {
-        slot[s] = kNoSlot;
         SeatHandCode[s] = kNoHand;
         if (!SeatInHand[s]) continue;
         cards[1] = SeatCards[s][1];
@@ -98,28 +98,32 @@ void Game::RankHands() {
             continue;
         }
         const uint64_t key = board + t.cardKey[cards[1]] + t.cardKey[cards[2]];
-        suits[s] = static_cast<uint32_t>(key >> kSuitShift);
-        if (uint32_t five = (suits[s] + kFiveOfASuit) & kNibbleTops; five != 0) {
-            code[s] = RankFlush(*this, t, s, n, cards, five);
-            if (code[s] == 0) RankSeatReference(*this, s);
+        const auto seatSuits = static_cast<uint32_t>(key >> kSuitShift);
+        if (uint32_t five = (seatSuits + kFiveOfASuit) & kNibbleTops; five != 0) {
+            if (int flush = RankFlush(*this, t, s, n, cards, five); flush != 0) {
+                SeatHandCode[s] = static_cast<int16_t>(flush);
+                SeatHandName[s] = kHandNames[t.nameOfCode[flush]];
+            } else {
+                RankSeatReference(*this, s);
+            }
             continue;
         }
-        slot[s] = patterns.Find(static_cast<uint32_t>(key));
+        seatOf[listed] = s;
+        suits[listed] = seatSuits;
+        slot[listed++] = patterns.Find(static_cast<uint32_t>(key));
     }
-    for (int s = 1; s <= kSeats; ++s) {
-        if (slot[s] == kNoSlot) continue;
-        code[s] = patterns.code[slot[s]];
+    for (int i = 0; i < listed; ++i) {
+        code[i] = patterns.code[slot[i]];
         // The river makes every high-card hand 199 whatever its suits.
-        if (!river && code[s] >= kFirstHighCard && ((suits[s] + kFourOfASuit) & kNibbleTops) != 0)
-            code[s] = kFourToASuit;
+        if (!river && code[i] >= kFirstHighCard && ((suits[i] + kFourOfASuit) & kNibbleTops) != 0)
+            code[i] = kFourToASuit;
+        SeatHandCode[seatOf[i]] = static_cast<int16_t>(code[i]);
         if (river)
-            UnpackRanks(SeatBestRanks[s], patterns.ranks[slot[s]], std::make_index_sequence<kHandCardsMax>{});
+            UnpackRanks(SeatBestRanks[seatOf[i]], patterns.ranks[slot[i]],
+                        std::make_index_sequence<kHandCardsMax>{});
     }
-    for (int s = 1; s <= kSeats; ++s) {
-        if (code[s] == 0) continue;
-        SeatHandCode[s] = static_cast<int16_t>(code[s]);
-        if (int name = t.nameOfCode[code[s]]; name != 0) SeatHandName[s] = kHandNames[name];
-    }
+    for (int i = 0; i < listed; ++i)
+        if (int name = t.nameOfCode[code[i]]; name != 0) SeatHandName[seatOf[i]] = kHandNames[name];
 }
 
 // Codes below this tie outright: the straight flushes and four Aces.
