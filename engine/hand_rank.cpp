@@ -49,13 +49,13 @@ void ArrangeFlush(Game& g, int s, const int (&cards)[kHandCardsMax + 1], int sui
 
 // A seat with five or more cards of one suit; 0 where the tables do not know
 // the hand.
-int RankFlush(Game& g, const HandRankTables& t, int s, int n, const int (&cards)[kHandCardsMax + 1],
-              uint32_t fiveBits) {
+int RankFlush(Game& g, int s, int n, const int (&cards)[kHandCardsMax + 1], uint32_t fiveBits) {
     int suit = std::countr_zero(fiveBits) / kRankBits;
     unsigned suited = 0;
     for (int k = 1; k <= n; ++k)
         if (SuitOf(cards[k]) == suit) suited |= 1u << (RankOf(cards[k]) - 1);
-    int code = t.flush[suited];
+    const FlushTable& flushes = FlushCodes();
+    int code = flushes.complete ? flushes.code[suited] : 0;
     if (code != 0 && n == kHandCardsMax) ArrangeFlush(g, s, cards, suit);
     return code;
 }
@@ -65,8 +65,7 @@ int RankFlush(Game& g, const HandRankTables& t, int s, int n, const int (&cards)
 void Game::RankHands() {
     const int n = CardsKnown;
     if (n < 5 || n > kHandCardsMax) return RankHandsReference(*this);
-    const HandRankTables& t = HandRankTablesInUse();
-    const RankPatternTable& patterns = t.bySize[n];
+    const RankPatternTable& patterns = RankPatterns(n);
     if (!patterns.complete) return RankHandsReference(*this);
     const bool river = n == kHandCardsMax;
     // Every key the tables are asked for must be a real pattern: that holds
@@ -77,7 +76,7 @@ void Game::RankHands() {
         cards[k] = Deck[kBoardFirst + k - 3];
         if (!IsCard(cards[k]) || (dealt & Bit(cards[k])) != 0) return RankHandsReference(*this);
         dealt |= Bit(cards[k]);
-        board += t.cardKey[cards[k]];
+        board += kCardKey[cards[k]];
     }
     // First the slots of all seats, then their codes: the look-ups go to
     // memory together. The seats found by the tables are listed, so the later
@@ -97,12 +96,12 @@ void Game::RankHands() {
             RankSeatReference(*this, s);
             continue;
         }
-        const uint64_t key = board + t.cardKey[cards[1]] + t.cardKey[cards[2]];
+        const uint64_t key = board + kCardKey[cards[1]] + kCardKey[cards[2]];
         const auto seatSuits = static_cast<uint32_t>(key >> kSuitShift);
         if (uint32_t five = (seatSuits + kFiveOfASuit) & kNibbleTops; five != 0) {
-            if (int flush = RankFlush(*this, t, s, n, cards, five); flush != 0) {
+            if (int flush = RankFlush(*this, s, n, cards, five); flush != 0) {
                 SeatHandCode[s] = static_cast<int16_t>(flush);
-                SeatHandName[s] = kHandNames[t.nameOfCode[flush]];
+                SeatHandName[s] = kHandNames[FlushCodes().nameOfCode[flush]];
             } else {
                 RankSeatReference(*this, s);
             }
@@ -123,7 +122,7 @@ void Game::RankHands() {
                         std::make_index_sequence<kHandCardsMax>{});
     }
     for (int i = 0; i < listed; ++i)
-        if (int name = t.nameOfCode[code[i]]; name != 0) SeatHandName[seatOf[i]] = kHandNames[name];
+        if (int name = patterns.nameOfCode[code[i]]; name != 0) SeatHandName[seatOf[i]] = kHandNames[name];
 }
 
 // Codes below this tie outright: the straight flushes and four Aces.

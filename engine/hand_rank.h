@@ -40,6 +40,15 @@ void RankHandsReference(Game& g);
 // distinct cards add up without carries.
 constexpr int kSuitShift = 32;
 constexpr int kRankBits = 4;
+constexpr auto kCardKey = [] {
+    std::array<uint64_t, 53> key{};  // by card 1..52
+    for (int c = 1; c <= 52; ++c) {
+        uint64_t rankKey = 1;
+        for (int r = 1; r < (c - 1) % 13 + 1; ++r) rankKey *= 5;
+        key[c] = rankKey | uint64_t{1} << (kSuitShift + kRankBits * ((c - 1) / 13));
+    }
+    return key;
+}();
 
 // The rank patterns of one hand size, found by a perfect hash of the rank
 // key: a bucket by one hash, then a slot by a second hash moved by the
@@ -48,10 +57,14 @@ constexpr int kRankBits = 4;
 struct RankPatternTable {
     uint32_t slots = 0;
     uint32_t buckets = 0;
-    bool complete = false;                  // every pattern placed
+    bool complete = false;                  // every pattern placed, one name to a code
     const uint16_t* tryOfBucket = nullptr;  // displacement = try * kDisplacementStep
     const uint8_t* code = nullptr;
     const uint32_t* ranks = nullptr;  // seven cards only: arranged ranks 1..7, kRankBits each
+    // The name goes with the code; the slots hold codes alone, to stay small.
+    std::array<uint8_t, 256> nameOfCode{};
+    std::size_t bytes = 0;
+    double buildMilliseconds = 0;
 
     static constexpr uint32_t kDisplacementStep = 0x9E3779B9u;
 
@@ -70,19 +83,19 @@ private:
     }
 };
 
-struct HandRankTables {
-    std::array<uint64_t, 53> cardKey{};  // by card 1..52
-    RankPatternTable bySize[kHandCardsMax + 1];
-    // Flush codes by the suited ranks, bit r - 1 for rank r; 0 where the
-    // reference must decide.
-    std::array<uint8_t, 1u << 13> flush{};
-    // The name goes with the code; the tables hold codes alone, to stay small.
+// Flush codes by the suited ranks, bit r - 1 for rank r; 0 where the
+// reference must decide.
+struct FlushTable {
+    std::array<uint8_t, 1u << 13> code{};
     std::array<uint8_t, 256> nameOfCode{};
+    bool complete = false;
     std::size_t bytes = 0;
     double buildMilliseconds = 0;
 };
 
-// Built on the first call, from the reference.
-const HandRankTables& HandRankTablesInUse();
+// Each built from the reference on its first call, so the first flop, turn
+// and river each pay for their own table: n is 5, 6 or 7.
+const RankPatternTable& RankPatterns(int n);
+const FlushTable& FlushCodes();
 
 }  // namespace holdem

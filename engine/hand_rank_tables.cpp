@@ -11,7 +11,6 @@
 #include <chrono>
 #include <vector>
 
-#include "engine/common.h"
 #include "engine/hand_rank.h"
 
 namespace holdem {
@@ -32,6 +31,10 @@ struct Pattern {
     uint8_t code;
     uint32_t ranks;
 };
+
+double MillisecondsSince(std::chrono::steady_clock::time_point start) {
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
 
 constexpr auto kPower5 = [] {
     std::array<uint32_t, kRanks + 1> p{};
@@ -173,50 +176,63 @@ void PlacePatterns(const std::vector<Pattern>& patterns, bool river, PatternStor
 }
 
 // Every suited rank set of five to seven cards, as one suit would hold it.
-void FillFlushes(HandRankTables& t, NameOfCode& names) {
-    for (unsigned mask = 0; mask < t.flush.size(); ++mask) {
-        int n = std::popcount(mask);
-        if (n < kSmallestHand || n > kHandCardsMax) continue;
-        int16_t cards[kHandCardsMax + 1] = {};
-        int k = 0;
-        for (int r = 1; r <= kRanks; ++r)
-            if (mask & (1u << (r - 1))) cards[++k] = static_cast<int16_t>(r);
-        HandRanking ranked;
-        RankCardsReference(cards, n, false, ranked);
-        t.flush[mask] = names(ranked);
-    }
-}
+struct FlushesBuilt {
+    FlushTable table;
 
-struct TableStore {
-    PatternStore bySize[kHandCardsMax + 1];
-    HandRankTables tables;
-
-    TableStore() {
+    FlushesBuilt() {
         auto start = std::chrono::steady_clock::now();
-        HandRankTables& t = tables;
-        for (int c = 1; c <= kDeckSize; ++c)
-            t.cardKey[c] = kPower5[RankOf(c) - 1] | (uint64_t{1} << (kSuitShift + kRankBits * SuitOf(c)));
-        t.bytes = sizeof t.cardKey + sizeof t.flush;
-        NameOfCode names(t.nameOfCode);
-        std::vector<Pattern> patterns;
-        for (int n = kSmallestHand; n <= kHandCardsMax; ++n) {
-            patterns.clear();
-            PatternWalk(n, names, patterns);
-            PlacePatterns(patterns, n == kHandCardsMax, bySize[n], t.bySize[n]);
-            t.bytes += bySize[n].Bytes();
+        NameOfCode names(table.nameOfCode);
+        for (unsigned mask = 0; mask < table.code.size(); ++mask) {
+            int n = std::popcount(mask);
+            if (n < kSmallestHand || n > kHandCardsMax) continue;
+            int16_t cards[kHandCardsMax + 1] = {};
+            int k = 0;
+            for (int r = 1; r <= kRanks; ++r)
+                if (mask & (1u << (r - 1))) cards[++k] = static_cast<int16_t>(r);
+            HandRanking ranked;
+            RankCardsReference(cards, n, false, ranked);
+            table.code[mask] = names(ranked);
         }
-        FillFlushes(t, names);
-        for (RankPatternTable& table : t.bySize) table.complete = table.complete && names.Agree();
-        t.buildMilliseconds =
-            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+        table.complete = names.Agree();
+        table.bytes = sizeof table.code + sizeof table.nameOfCode;
+        table.buildMilliseconds = MillisecondsSince(start);
+    }
+};
+
+struct PatternsBuilt {
+    PatternStore store;
+    RankPatternTable table;
+
+    explicit PatternsBuilt(int n) {
+        auto start = std::chrono::steady_clock::now();
+        NameOfCode names(table.nameOfCode);
+        std::vector<Pattern> patterns;
+        PatternWalk(n, names, patterns);
+        PlacePatterns(patterns, n == kHandCardsMax, store, table);
+        table.complete = table.complete && names.Agree();
+        table.bytes = store.Bytes() + sizeof table;
+        table.buildMilliseconds = MillisecondsSince(start);
     }
 };
 
 }  // namespace
 
-const HandRankTables& HandRankTablesInUse() {
-    static const TableStore store;
-    return store.tables;
+const RankPatternTable& RankPatterns(int n) {
+    if (n == kSmallestHand) {
+        static const PatternsBuilt flop(kSmallestHand);
+        return flop.table;
+    }
+    if (n == kSmallestHand + 1) {
+        static const PatternsBuilt turn(kSmallestHand + 1);
+        return turn.table;
+    }
+    static const PatternsBuilt river(kHandCardsMax);
+    return river.table;
+}
+
+const FlushTable& FlushCodes() {
+    static const FlushesBuilt flushes;
+    return flushes.table;
 }
 
 }  // namespace holdem
