@@ -21,7 +21,7 @@ namespace {
 struct Twin {
     test::ScriptedPlatform p;
     Game g[2] = {Game(p), Game(p)};
-    int checks = 0, failures = 0;
+    int failures = 0;
 
     Twin() { g[0].SeatInHand.fill(true), g[1].SeatInHand.fill(true); }
     ~Twin() { EXPECT_EQ(failures, 0); }
@@ -39,7 +39,6 @@ struct Twin {
         }
         g[0].RankHands();
         RankHandsReference(g[1]);
-        ++checks;
         for (int s = 1; s <= kSeats; ++s) {
             bool same =
                 g[0].SeatHandCode[s] == g[1].SeatHandCode[s] &&
@@ -74,8 +73,7 @@ TEST(RankFast, EverySixCardRankPatternAsTheReference) {
     std::mt19937 rng(6);
     int patterns = 0;
     std::array<int, 14> count{};
-    // Suitings: each rank from the first suit up (a flush where the ranks allow
-    // it), then three spreads; the cards in random order.
+    // Each rank from the first suit up (flushes where they can be), then three spreads.
     auto walk = [&](auto& self, int rank, int left) -> void {
         if (left == 0) {
             ++patterns;
@@ -100,6 +98,8 @@ TEST(RankFast, EverySixCardRankPatternAsTheReference) {
 
 // Seeded random deals, eight seats each, flop, turn and river; odd input too.
 TEST(RankFast, AMillionSevenCardHandsAsTheReference) {
+    // Were a table incomplete, the reference would stand in and prove nothing.
+    for (int n : {5, 6, 7}) EXPECT_TRUE(RankPatterns(n).complete && FlushCodes().complete);
     Twin t;
     std::mt19937 rng(20240601);
     std::array<int, 52> deck;
@@ -113,7 +113,6 @@ TEST(RankFast, AMillionSevenCardHandsAsTheReference) {
     t.Hole(2, 0, deck[0]);
     for (Game& x : t.g) x.SeatInHand[5] = false;
     for (int known : {3, 7, 8}) t.Check(known);
-    EXPECT_EQ(t.checks, 375003);
 }
 
 }  // namespace
