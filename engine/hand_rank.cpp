@@ -2,10 +2,12 @@
 // better) and a text; on the river also the seven ranks arranged so that the
 // five that play come first. CompareShowdown reads both to order the seats.
 //
-// It runs three times for each of up to 125 tables a round, so it allocates
-// nothing: names come from static constants that fit the short-string buffer.
+// It runs three times for each of up to 125 tables a round, so it looks each
+// hand up in tables made from the reference (hand_rank_tables.cpp) instead of
+// sorting: the board's keys are summed once, each seat adds its two cards.
+#include "engine/hand_rank.h"
+
 #include <bit>
-#include <string>
 #include <utility>
 
 #include "engine/game_state.h"
@@ -14,269 +16,120 @@ namespace holdem {
 
 namespace {
 
-constexpr int kMaxCards = 7;
-constexpr int kSuits = 4;
-constexpr int kRanks = 13;
-constexpr int kAce = 13;
-constexpr int kKing = 12;
-constexpr int kQueen = 11;
-constexpr int kJack = 10;
-constexpr int kTen = 9;
-
-// The straights by rank value, highest first; 5-4-3-2-A is tried last.
-constexpr int kStraightRows = 10;
-constexpr int kStraights[kStraightRows][5] = {
-    {13, 12, 11, 10, 9}, {12, 11, 10, 9, 8}, {11, 10, 9, 8, 7}, {10, 9, 8, 7, 6}, {9, 8, 7, 6, 5},
-    {8, 7, 6, 5, 4},     {7, 6, 5, 4, 3},    {6, 5, 4, 3, 2},   {5, 4, 3, 2, 1},  {4, 3, 2, 1, 13}};
-
-constexpr int kRoyalFlush = 1;      // straight flush codes 1..10 by row
-constexpr int kFourBase = 24;       // - FourRank: 11..23
-constexpr int kFullHouseBase = 37;  // - ThreeRank: 24..36
-constexpr int kFlush = 37;
-constexpr int kStraightBase = 38;  // + row: 38..47
-constexpr int kThreeBase = 61;     // - ThreeRank: 48..60
-constexpr int kPairBase = 152;     // - PairRank: 139..151
-constexpr int kFourToASuit = 152;
-constexpr int kGappedHighCards = 153;
-constexpr int kNothing = 199;
+// Suit nibbles plus these carry into bit 3 of a nibble at five (a flush) or
+// at four cards of the suit.
+constexpr uint32_t kFiveOfASuit = 0x3333;
+constexpr uint32_t kFourOfASuit = 0x4444;
+constexpr uint32_t kNibbleTops = 0x8888;
 constexpr int kFirstHighCard = 152;
-constexpr int kLastBelowNothing = 198;
+constexpr int kFourToASuit = 152;
+constexpr uint32_t kRankMask = (1u << kRankBits) - 1;
 
-// First two-pair code for each rank of the higher pair.
-constexpr int kTwoPairRowStart[kRanks + 1] = {0, 0, 138, 136, 133, 129, 124, 118, 111, 103, 94, 84, 73, 61};
-
-// High-card codes from 154 on: the first pair of ranks present decides.
-constexpr int kHighCardBase = 154;
-constexpr std::pair<int, int> kHighCardPairs[] = {{kAce, kKing},   {kAce, kQueen}, {kAce, kJack},
-                                                  {kKing, kQueen}, {kKing, kJack}, {kQueen, kJack},
-                                                  {kAce, kTen},    {kKing, kTen},  {kQueen, kTen}};
-// Both spans of the five highest ranks must be this close to leave a chance.
-constexpr int kMaxSpan = 4;
-
-const std::string kRankWord[kRanks + 1] = {"",       "Dueces", "Threes", "Fours", "Fives",  "Sixes", "Sevens",
-                                           "Eights", "Nines",  "Tens",   "Jacks", "Queens", "Kings", "Aces"};
-const std::string kRoyalFlushName = "Royal Flush";
-const std::string kStraightFlushName = "Straight Flush";
-const std::string kFlushName = "Flush";
-const std::string kFourName = "Four of a Kind";
-const std::string kFullHouseName = "Full House";
-const std::string kStraightName = "Straight";
-const std::string kThreeName = "Three of a Kind";
-const std::string kTwoPairName = "Two Pair";
-
-// One seat's cards and their ranks, 1..n, always rearranged together.
-struct SeatHand {
-    int n = 0;
-    int card[kMaxCards + 1];
-    int rank[kMaxCards + 1];
-    int rankCount[kRanks + 1] = {};
-    int suitCount[kSuits] = {};
-    unsigned rankMask = 0;  // bit r set when rank r is present
-    int fourRank = 0, threeRank = 0, pairRank = 0, secondPairRank = 0;
-    int flushSuit = -1;
-};
-
-void Swap(SeatHand& h, int i, int j) {
-    std::swap(h.card[i], h.card[j]);
-    std::swap(h.rank[i], h.rank[j]);
+// Written out, not looped: the copy is a large part of a river seat's work.
+template <std::size_t... K>
+void UnpackRanks(int16_t* to, uint32_t ranks, std::index_sequence<K...>) {
+    ((to[K + 1] = static_cast<int16_t>((ranks >> (kRankBits * K)) & kRankMask)), ...);
 }
 
-// Selection sort, highest rank first, taking the first card found among equals.
-void SortDown(SeatHand& h, int from, int to) {
-    for (int i = from; i < to; ++i) {
-        int best = i;
-        for (int j = i + 1; j <= to; ++j)
-            if (h.rank[j] > h.rank[best]) best = j;
-        Swap(h, i, best);
-    }
+bool IsCard(int c) { return static_cast<unsigned>(c - 1) < static_cast<unsigned>(kDeckSize); }
+uint64_t Bit(int card) { return uint64_t{1} << card; }
+
+// The arranged list of a flush: the suited cards swapped to the front in the
+// order met, then those sorted, highest first; the rest stay where the swaps
+// left them.
+void ArrangeFlush(Game& g, int s, const int (&cards)[kHandCardsMax + 1], int suit) {
+    int16_t* rank = g.SeatBestRanks[s];
+    for (int k = 1; k <= kHandCardsMax; ++k) rank[k] = static_cast<int16_t>(RankOf(cards[k]));
+    int front = 1;
+    for (int k = 1; k <= kHandCardsMax; ++k)
+        if (SuitOf(cards[k]) == suit) std::swap(rank[front++], rank[k]);
+    for (int i = 2; i < front; ++i)
+        for (int j = i; j > 1 && rank[j] > rank[j - 1]; --j) std::swap(rank[j], rank[j - 1]);
 }
 
-void Pull(SeatHand& h, int rank, int from, int to) {
-    for (int p = from; p <= to; ++p) {
-        for (int j = p; j <= h.n; ++j) {
-            if (h.rank[j] == rank) {
-                Swap(h, p, j);
-                break;
-            }
-        }
-    }
+// A seat with five or more cards of one suit; 0 where the tables do not know
+// the hand.
+int RankFlush(Game& g, int s, int n, const int (&cards)[kHandCardsMax + 1], uint32_t fiveBits) {
+    int suit = std::countr_zero(fiveBits) / kRankBits;
+    unsigned suited = 0;
+    for (int k = 1; k <= n; ++k)
+        if (SuitOf(cards[k]) == suit) suited |= 1u << (RankOf(cards[k]) - 1);
+    const FlushTable& flushes = FlushCodes();
+    int code = flushes.complete ? flushes.code[suited] : 0;
+    if (code != 0 && n == kHandCardsMax) ArrangeFlush(g, s, cards, suit);
+    return code;
 }
-
-void Collect(const Game& g, int s, SeatHand& h) {
-    h.n = 5 + (g.CardsKnown > 5 ? 1 : 0) + (g.CardsKnown > 6 ? 1 : 0);
-    h.card[1] = g.SeatCards[s][1];
-    h.card[2] = g.SeatCards[s][2];
-    for (int k = 3; k <= h.n; ++k) h.card[k] = g.Deck[kBoardFirst + k - 3];
-    for (int k = 1; k <= h.n; ++k) {
-        h.rank[k] = RankOf(h.card[k]);
-        ++h.rankCount[h.rank[k]];
-        ++h.suitCount[SuitOf(h.card[k])];
-        h.rankMask |= 1u << h.rank[k];
-    }
-    for (int suit = 0; suit < kSuits; ++suit)
-        if (h.suitCount[suit] >= 5) h.flushSuit = suit;
-}
-
-// Upward through the ranks present, lowest first.
-void FindGroups(SeatHand& h) {
-    for (unsigned present = h.rankMask; present != 0; present &= present - 1) {
-        int r = std::countr_zero(present);
-        if (h.rankCount[r] == 4) {
-            h.fourRank = r;
-        } else if (h.rankCount[r] == 3) {
-            // A lower three of a kind counts as the pair of a full house.
-            if (h.threeRank != 0) {
-                if (h.pairRank != 0) h.secondPairRank = h.pairRank;
-                h.pairRank = h.threeRank;
-            }
-            h.threeRank = r;
-        } else if (h.rankCount[r] == 2) {
-            if (h.pairRank != 0) h.secondPairRank = h.pairRank;
-            h.pairRank = r;
-        }
-    }
-}
-
-void Arrange(SeatHand& h) {
-    if (h.flushSuit >= 0) {
-        int front = 1;
-        for (int i = 1; i <= h.n; ++i)
-            if (SuitOf(h.card[i]) == h.flushSuit) Swap(h, front++, i);
-        SortDown(h, 1, front - 1);
-        return;
-    }
-    SortDown(h, 1, h.n);
-    if (h.fourRank != 0) {
-        Pull(h, h.fourRank, 1, 4);
-        SortDown(h, 5, h.n);
-    } else if (h.threeRank != 0 && h.pairRank != 0) {
-        Pull(h, h.threeRank, 1, 3);
-        Pull(h, h.pairRank, 4, 5);
-        SortDown(h, 6, h.n);
-    } else if (h.threeRank != 0) {
-        Pull(h, h.threeRank, 1, 3);
-        SortDown(h, 4, h.n);
-    } else if (h.pairRank != 0 && h.secondPairRank != 0) {
-        Pull(h, h.pairRank, 1, 2);
-        Pull(h, h.secondPairRank, 3, 4);
-        SortDown(h, 5, h.n);
-    } else if (h.pairRank != 0) {
-        Pull(h, h.pairRank, 1, 2);
-        SortDown(h, 3, h.n);
-    }
-}
-
-constexpr unsigned MaskOf(const int (&ranks)[5]) {
-    unsigned mask = 0;
-    for (int r : ranks) mask |= 1u << r;
-    return mask;
-}
-
-constexpr unsigned kStraightMasks[kStraightRows] = {
-    MaskOf(kStraights[0]), MaskOf(kStraights[1]), MaskOf(kStraights[2]), MaskOf(kStraights[3]),
-    MaskOf(kStraights[4]), MaskOf(kStraights[5]), MaskOf(kStraights[6]), MaskOf(kStraights[7]),
-    MaskOf(kStraights[8]), MaskOf(kStraights[9])};
-
-// Row of the highest straight among the ranks present, -1 for none.
-int StraightRow(unsigned present) {
-    for (int row = 0; row < kStraightRows; ++row)
-        if ((present & kStraightMasks[row]) == kStraightMasks[row]) return row;
-    return -1;
-}
-
-int HighCardCode(const SeatHand& h) {
-    for (int suit = 0; suit < kSuits; ++suit)
-        if (h.suitCount[suit] == 4) return kFourToASuit;
-    // No rank is paired here, so the five highest ranks are the top five
-    // present, as the sorted list would give them.
-    int top[6] = {};
-    int found = 0;
-    for (int r = kRanks; r >= 1 && found < 5; --r)
-        if (h.rankMask & (1u << r)) top[++found] = r;
-    if (top[1] - top[4] > kMaxSpan || top[2] - top[5] > kMaxSpan) return kGappedHighCards;
-    int code = kHighCardBase;
-    for (const auto& [high, low] : kHighCardPairs) {
-        if (h.rankCount[high] > 0 && h.rankCount[low] > 0) return code;
-        ++code;
-    }
-    return kNothing;
-}
-
-// Code by the first category that fits; the name only where one is written.
-int Categorise(const SeatHand& h, const std::string*& name) {
-    name = nullptr;
-    if (h.flushSuit >= 0) {
-        unsigned suited = 0;
-        for (int k = 1; k <= h.n; ++k)
-            if (SuitOf(h.card[k]) == h.flushSuit) suited |= 1u << h.rank[k];
-        int row = StraightRow(suited);
-        if (row >= 0) {
-            name = row == 0 ? &kRoyalFlushName : &kStraightFlushName;
-            return kRoyalFlush + row;
-        }
-        name = &kFlushName;
-        return kFlush;
-    }
-    if (h.fourRank != 0) {
-        name = &kFourName;
-        return kFourBase - h.fourRank;
-    }
-    if (h.threeRank != 0 && h.pairRank != 0) {
-        name = &kFullHouseName;
-        return kFullHouseBase - h.threeRank;
-    }
-    int row = StraightRow(h.rankMask);
-    if (row >= 0) {
-        name = &kStraightName;
-        return kStraightBase + row;
-    }
-    if (h.threeRank != 0) {
-        name = &kThreeName;
-        return kThreeBase - h.threeRank;
-    }
-    if (h.pairRank != 0 && h.secondPairRank != 0) {
-        name = &kTwoPairName;
-        return kTwoPairRowStart[h.pairRank] + (h.pairRank - 1 - h.secondPairRank);
-    }
-    if (h.pairRank != 0) {
-        name = &kRankWord[h.pairRank];
-        return kPairBase - h.pairRank;
-    }
-    return HighCardCode(h);
-}
-
-void RankSeat(Game& g, int s) {
-    SeatHand h;
-    Collect(g, s, h);
-    FindGroups(h);
-    // Only the river's BestRanks read the arranged list; the categories and
-    // the high-card rule need nothing of it.
-    bool river = g.CardsKnown == kMaxCards;
-    if (river) Arrange(h);
-    const std::string* name = nullptr;
-    int code = Categorise(h, name);
-    if (name != nullptr) g.SeatHandName[s] = *name;
-    if (river) {
-        if (code >= kFirstHighCard && code <= kLastBelowNothing) code = kNothing;
-        for (int k = 1; k <= kMaxCards; ++k) g.SeatBestRanks[s][k] = static_cast<int16_t>(h.rank[k]);
-    }
-    g.SeatHandCode[s] = static_cast<int16_t>(code);
-}
-
-// Codes below this tie outright: the straight flushes and four Aces.
-constexpr int kTieOutrightBelow = 12;
-constexpr int kLastStraight = 47;
-constexpr int kPlayingCards = 5;
 
 }  // namespace
 
 void Game::RankHands() {
+    const int n = CardsKnown;
+    if (n < 5 || n > kHandCardsMax) return RankHandsReference(*this);
+    const RankPatternTable& patterns = RankPatterns(n);
+    if (!patterns.complete) return RankHandsReference(*this);
+    const bool river = n == kHandCardsMax;
+    // Every key the tables are asked for must be a real pattern: that holds
+    // for distinct cards.
+    int cards[kHandCardsMax + 1] = {};
+    uint64_t board = 0, dealt = 0;
+    for (int k = 3; k <= n; ++k) {
+        cards[k] = Deck[kBoardFirst + k - 3];
+        if (!IsCard(cards[k]) || (dealt & Bit(cards[k])) != 0) return RankHandsReference(*this);
+        dealt |= Bit(cards[k]);
+        board += kCardKey[cards[k]];
+    }
+    // First the slots of all seats, then their codes: the look-ups go to
+    // memory together. The seats found by the tables are listed, so the later
+    // passes do not test each seat again. Names are written last, as a string
+    // copy between look-ups would hold them back.
+    int listed = 0;
+    int seatOf[kSeats];
+    uint32_t slot[kSeats], suits[kSeats];
+    int code[kSeats];
     for (int s = 1; s <= kSeats; ++s) {
         SeatHandCode[s] = kNoHand;
         if (!SeatInHand[s]) continue;
-        RankSeat(*this, s);
+        cards[1] = SeatCards[s][1];
+        cards[2] = SeatCards[s][2];
+        if (!IsCard(cards[1]) || !IsCard(cards[2]) || cards[1] == cards[2] ||
+            (dealt & (Bit(cards[1]) | Bit(cards[2]))) != 0) {
+            RankSeatReference(*this, s);
+            continue;
+        }
+        const uint64_t key = board + kCardKey[cards[1]] + kCardKey[cards[2]];
+        const auto seatSuits = static_cast<uint32_t>(key >> kSuitShift);
+        if (uint32_t five = (seatSuits + kFiveOfASuit) & kNibbleTops; five != 0) {
+            if (int flush = RankFlush(*this, s, n, cards, five); flush != 0) {
+                SeatHandCode[s] = static_cast<int16_t>(flush);
+                SeatHandName[s] = kHandNames[FlushCodes().nameOfCode[flush]];
+            } else {
+                RankSeatReference(*this, s);
+            }
+            continue;
+        }
+        seatOf[listed] = s;
+        suits[listed] = seatSuits;
+        slot[listed++] = patterns.Find(static_cast<uint32_t>(key));
     }
+    for (int i = 0; i < listed; ++i) {
+        code[i] = patterns.code[slot[i]];
+        // The river makes every high-card hand 199 whatever its suits.
+        if (!river && code[i] >= kFirstHighCard && ((suits[i] + kFourOfASuit) & kNibbleTops) != 0)
+            code[i] = kFourToASuit;
+        SeatHandCode[seatOf[i]] = static_cast<int16_t>(code[i]);
+        if (river)
+            UnpackRanks(SeatBestRanks[seatOf[i]], patterns.ranks[slot[i]],
+                        std::make_index_sequence<kHandCardsMax>{});
+    }
+    for (int i = 0; i < listed; ++i)
+        if (int name = patterns.nameOfCode[code[i]]; name != 0) SeatHandName[seatOf[i]] = kHandNames[name];
 }
+
+// Codes below this tie outright: the straight flushes and four Aces.
+constexpr int kTieOutrightBelow = 12;
+constexpr int kStraightBase = 38;
+constexpr int kLastStraight = 47;
+constexpr int kPlayingCards = 5;
 
 int Game::CompareShowdown(int a, int b) const {
     int codeA = SeatHandCode[a];

@@ -9,11 +9,25 @@
 
 namespace holdem {
 
+// One step of SplitMix64: advances x and returns the next 64 random bits.
+inline uint64_t SplitMix(uint64_t& x) {
+    uint64_t z = (x += 0x9E3779B97F4A7C15ULL);
+    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
+    z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
+    return z ^ (z >> 31);
+}
+
 class Random {
 public:
     Random();
 
-    float Rnd();
+    // Inline: the background tables draw some ten thousand times a round.
+    float Rnd() {
+        ++draws_;
+        if (scripted_) return ScriptedDraw();
+        // 24 random bits fill a float's mantissa exactly: uniform on [0, 1).
+        return static_cast<float>(Next() >> 40) * (1.0f / 16777216.0f);
+    }
     void Randomize();
 
     // From now on Randomize() reseeds from a sequence fixed by this seed, so
@@ -29,7 +43,8 @@ public:
     uint64_t Draws() const { return draws_; }
 
 private:
-    uint64_t Next();
+    float ScriptedDraw();
+    uint64_t Next() { return SplitMix(state_); }
 
     uint64_t state_ = 0;
     uint64_t reseeds_ = 0;
