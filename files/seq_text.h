@@ -40,13 +40,13 @@ public:
     // True when nothing but blanks and line ends is left.
     bool AtEnd();
 
-    // The line of the item read last, from 1; for the checks of its value.
-    int Line() const;
-    // Throws FileError "Line N: what." for the item read last.
+    // Throws FileError "Line N: what." for the line of the item read last,
+    // when its value is of the right kind but not one the game can take.
     [[noreturn]] void Refuse(const std::string& what) const;
 
 private:
     SeqReader() = default;
+    int Line() const;
     struct Item {
         std::string text;
         bool quoted = false;
