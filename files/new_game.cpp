@@ -6,6 +6,10 @@
 
 namespace holdem {
 
+namespace {
+const char* const kGameDataFile = "gamedata.dat";
+}
+
 int16_t TournamentSizeFor(const std::string& gameType, const std::string& players) {
     if (gameType == "Single Table") return 8;
     if (players == "80") return 80;
@@ -44,7 +48,19 @@ void Game::NewGame() {
     NewGameChoices choices = platform->ShowNewGame(GameSpeed);
     NewGameCancelled = choices.cancelled;
     if (NewGameCancelled) return;
-    TournamentSize = TournamentSizeFor(choices.gameType, choices.players);
+    const int16_t size = TournamentSizeFor(choices.gameType, choices.players);
+    // The players are read before the game in play ends: without them there
+    // is no new game, and the old one goes on as it was.
+    RosterFile players;
+    try {
+        players = ReadRosterFile(AppFolder + kGameDataFile, true, size);
+    } catch (const FileError& e) {
+        platform->MessageBox("The players of a new game could not be read from gamedata.dat in\n" +
+                                 AppFolder + "\n" + e.what() + "\n\nReinstalling the game restores the file.",
+                             "Game Not Started", MsgIcon::Exclamation, MsgButtons::OK);
+        return;
+    }
+    TournamentSize = size;
     GameSpeed = GameSpeedFor(choices.speed);
     HandsPlayed = 0;
     SavedGamePath.clear();
@@ -53,16 +69,7 @@ void Game::NewGame() {
     GameEnded = false;
     PlayerNameEntry = platform->ShowPlayerName();
     SeatName[1] = PlayerNameFor(PlayerNameEntry);
-    try {
-        LoadRoster();
-    } catch (const FileError&) {
-        // Without its players there is no game: the table stays empty.
-        AbandonGame(*this);
-        platform->MessageBox("The players of a new game could not be read from gamedata.dat in\n" +
-                                 AppFolder +
-                                 "\n\nThe file is missing or damaged. Reinstalling the game restores it.",
-                             "Game Not Started", MsgIcon::Exclamation, MsgButtons::OK);
-    }
+    LoadRosterFrom(*this, players);
 }
 
 }  // namespace holdem

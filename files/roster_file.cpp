@@ -24,55 +24,66 @@ constexpr int64_t kMaxChips = 16777216;
 // StartHand adds 1 to HandsPlayed, an Integer.
 constexpr int16_t kMaxHandsPlayed = 32766;
 
+// Chips, bets and blinds move in hundreds; the game never writes another amount.
+constexpr int32_t kChipUnit = 100;
+
 bool IsGameSize(int size) { return size == 8 || size == 80 || size == 200 || size == 1000; }
 
-void Require(bool ok, const char* what) {
-    if (!ok) throw FileError(what);
+void Require(const SeqReader& in, bool ok, const char* what) {
+    if (!ok) in.Refuse(what);
 }
 
 // Step 3: the header. A new game keeps the size chosen in the dialog.
-void ReadHeader(Game& g, SeqReader& in, bool newGame) {
-    if (newGame) {
-        in.ReadInt16();
-    } else {
-        g.TournamentSize = in.ReadInt16();
-    }
-    g.HandsPlayed = in.ReadInt16();
-    g.ButtonSeat = in.ReadInt16();
-    g.SmallBlind = in.ReadInt32();
-    Require(IsGameSize(g.TournamentSize), "the size of the game is not 8, 80, 200 or 1000");
-    Require(g.HandsPlayed >= 0 && g.HandsPlayed <= kMaxHandsPlayed, "the count of hands is out of range");
+void ReadHeader(RosterFile& f, SeqReader& in, bool newGame, int16_t newGameSize) {
+    int16_t size = in.ReadInt16();
+    f.TournamentSize = newGame ? newGameSize : size;
+    f.HandsPlayed = in.ReadInt16();
+    f.ButtonSeat = in.ReadInt16();
+    f.SmallBlind = in.ReadInt32();
+    Require(in, IsGameSize(f.TournamentSize), "the size of the game is not 8, 80, 200 or 1000");
+    Require(in, f.HandsPlayed >= 0 && f.HandsPlayed <= kMaxHandsPlayed, "the count of hands is out of range");
     // With no hand played yet both are drawn anew in step 9.
-    if (g.HandsPlayed != 0) {
-        Require(g.ButtonSeat >= 1 && g.ButtonSeat <= kSeats, "the button is not at a seat");
-        Require(g.SmallBlind >= 1 && g.SmallBlind <= kMaxChips, "the small blind is out of range");
+    if (f.HandsPlayed != 0) {
+        Require(in, f.ButtonSeat >= 1 && f.ButtonSeat <= kSeats, "the button is not at a seat from 1 to 8");
+        Require(in, f.SmallBlind >= kChipUnit && f.SmallBlind <= kMaxChips,
+                "the small blind is out of range");
+        Require(in, f.SmallBlind % kChipUnit == 0, "the small blind is not a whole number of hundreds");
     }
 }
 
-// Step 4: one player line into position p, checked so that no routine of the
-// game meets a value it cannot handle.
-void ReadPlayer(Game& g, SeqReader& in, int p, int64_t& chips) {
-    g.RosterTag[p] = in.ReadInt16();
-    g.RosterName[p] = in.ReadString();
-    g.RosterBank[p] = in.ReadInt32();
-    g.RosterPlace[p] = in.ReadInt16();
-    g.RosterNumber[p] = in.ReadInt16();
-    Require(g.RosterBank[p] >= 0, "a player's chips are negative");
-    chips += g.RosterBank[p];
-    Require(chips <= kMaxChips, "the chips of the game are out of range");
-    Require(g.RosterPlace[p] >= 0 && g.RosterPlace[p] <= g.TournamentSize, "a place is out of range");
-}
-
-int PlayersWithChips(const Game& g) {
-    int count = 0;
-    for (int p = 1; p <= g.TournamentSize; ++p)
-        if (g.RosterBank[p] > 0) ++count;
-    return count;
+// Step 4: one player line, checked so that no routine of the game meets a
+// value it cannot handle. The field's chips need not add up to its size
+// times the starting stack: a settlement that reports a shortfall leaves a
+// game that must still open.
+RosterRecord ReadPlayer(const RosterFile& f, SeqReader& in, int64_t& chips) {
+    RosterRecord r;
+    r.Tag = in.ReadInt16();
+    r.Name = in.ReadString();
+    r.Bank = in.ReadInt32();
+    r.Place = in.ReadInt16();
+    r.Number = in.ReadInt16();
+    Require(in, r.Bank >= 0, "a player's chips are below zero");
+    Require(in, r.Bank % kChipUnit == 0, "a player's chips are not a whole number of hundreds");
+    chips += r.Bank;
+    Require(in, chips <= kMaxChips, "the chips of the game add up to more than it can hold");
+    Require(in, r.Place >= 0 && r.Place <= f.TournamentSize, "a place is beyond the size of the game");
+    return r;
 }
 
 bool IsFinished(const Game& g) {
+    int withChips = 0;
+    for (int p = 1; p <= g.TournamentSize; ++p)
+        if (g.RosterBank[p] > 0) ++withChips;
     bool userOut = g.RosterBank[1] <= 0 && g.RosterPlace[1] >= 1;
-    return userOut || PlayersWithChips(g) <= 1;
+    return userOut || withChips <= 1;
+}
+
+bool IsFinished(const RosterFile& f) {
+    int withChips = 0;
+    for (const RosterRecord& r : f.Records)
+        if (r.Bank > 0) ++withChips;
+    const RosterRecord& user = f.Records.front();
+    return (user.Bank <= 0 && user.Place >= 1) || withChips <= 1;
 }
 
 // A file that holds a finished game opens to its final state and deals
@@ -107,8 +118,13 @@ std::string WithExtension(const std::string& path) {
     return p.has_extension() ? path : path + ".sgf";
 }
 
-void TellNotSaved(Game& g) {
-    g.platform->MessageBox(kNotSaved, kFailTitle, MsgIcon::Exclamation, MsgButtons::OK);
+// The first line is the game's own; the reason, when there is one, follows.
+std::string WithReason(const char* text, const std::string& reason) {
+    return reason.empty() ? std::string(text) : std::string(text) + "\n" + reason;
+}
+
+void TellNotSaved(Game& g, const std::string& reason = {}) {
+    g.platform->MessageBox(WithReason(kNotSaved, reason), kFailTitle, MsgIcon::Exclamation, MsgButtons::OK);
 }
 
 }  // namespace
@@ -127,20 +143,6 @@ void ClearTable(View& v) {
     v.mnuSave.enabled = v.mnuSaveAs.enabled = false;
 }
 
-// A failed load leaves a roster read only part of the way. Rather than deal
-// on it, the game returns to the state of a program that has just started:
-// an empty table, no hand, nothing to save, and no question at New or Exit.
-// SavedGamePath keeps the chosen path; Save is disabled, so nothing can
-// overwrite that file with the partial roster.
-void AbandonGame(Game& g) {
-    g.StopHandTimers();
-    ClearTable(g.view);
-    g.TournamentSize = 0;
-    g.HandsPlayed = 0;
-    g.PlayersLeft = 0;
-    g.GameUnsaved = false;
-}
-
 void WriteRosterFile(const Game& g, const std::string& path) {
     int size = std::clamp<int>(g.TournamentSize, 0, kRoster);
     SeqWriter out(path);
@@ -152,62 +154,82 @@ void WriteRosterFile(const Game& g, const std::string& path) {
     out.Commit();
 }
 
-void Game::LoadRoster() {
-    // A new or opened game can arrive in mid-hand: the old hand's chain ends
-    // here, before anything of the new game is read.
-    StopHandTimers();
-    ClearTable(view);
-
-    view.picTableMoney.visible = false;
-    PlayersLeft = 0;
-    for (int p = 1; p <= kRoster; ++p) {
-        RosterNumber[p] = 0;
-        RosterPlace[p] = 0;
-        RosterBank[p] = 0;
-        RosterName[p].clear();
-    }
-
-    const bool newGame = SavedGamePath.empty();
-    SeqReader in(newGame ? AppFolder + kGameData : SavedGamePath);
-    ReadHeader(*this, in, newGame);
+RosterFile ReadRosterFile(const std::string& path, bool newGame, int16_t newGameSize) {
+    SeqReader in(path);
+    RosterFile f;
+    ReadHeader(f, in, newGame, newGameSize);
+    f.Records.reserve(static_cast<std::size_t>(f.TournamentSize));
     int64_t chips = 0;
-    for (int p = 1; p <= TournamentSize; ++p) {
-        ReadPlayer(*this, in, p, chips);
-        if (RosterNumber[p] == 1) UserFinishPlace = RosterPlace[p];
-        if (RosterPlace[p] == 0) ++PlayersLeft;
-    }
-    if (newGame) Require(!IsFinished(*this), "gamedata.dat holds no field to play");
+    for (int p = 1; p <= f.TournamentSize; ++p) f.Records.push_back(ReadPlayer(f, in, chips));
+    if (newGame && IsFinished(f)) throw FileError("It holds no field to play.");
+    return f;
+}
 
-    NextFinishPlace = PlayersLeft;
-    if (newGame) RosterName[1] = SeatName[1];
-    for (int s = 1; s <= kSeats; ++s) {
-        SeatName[s] = RosterName[s];
-        SeatBank[s] = static_cast<float>(RosterBank[s]);
+void LoadRosterFrom(Game& g, const RosterFile& f) {
+    // A new or opened game can arrive in mid-hand: the old hand's chain ends here.
+    g.StopHandTimers();
+    ClearTable(g.view);
+
+    g.view.picTableMoney.visible = false;
+    g.PlayersLeft = 0;
+    for (int p = 1; p <= kRoster; ++p) {
+        g.RosterNumber[p] = 0;
+        g.RosterPlace[p] = 0;
+        g.RosterBank[p] = 0;
+        g.RosterName[p].clear();
     }
-    if (HandsPlayed == 0) {
-        rnd.Randomize();
+    const bool newGame = g.SavedGamePath.empty();
+    g.TournamentSize = f.TournamentSize;  // a new game's as the dialog chose it
+    g.HandsPlayed = f.HandsPlayed;
+    g.ButtonSeat = f.ButtonSeat;
+    g.SmallBlind = f.SmallBlind;
+    for (int p = 1; p <= g.TournamentSize; ++p) {
+        const RosterRecord& r = f.Records[static_cast<std::size_t>(p - 1)];
+        g.RosterTag[p] = r.Tag;
+        g.RosterName[p] = r.Name;
+        g.RosterBank[p] = r.Bank;
+        g.RosterPlace[p] = r.Place;
+        g.RosterNumber[p] = r.Number;
+        if (g.RosterNumber[p] == 1) g.UserFinishPlace = g.RosterPlace[p];
+        if (g.RosterPlace[p] == 0) ++g.PlayersLeft;
+    }
+
+    g.NextFinishPlace = g.PlayersLeft;
+    if (newGame) g.RosterName[1] = g.SeatName[1];
+    for (int s = 1; s <= kSeats; ++s) {
+        g.SeatName[s] = g.RosterName[s];
+        g.SeatBank[s] = static_cast<float>(g.RosterBank[s]);
+    }
+    if (g.HandsPlayed == 0) {
+        g.rnd.Randomize();
         for (int draw = 0; draw < 3; ++draw)
-            ButtonSeat = static_cast<int16_t>(RoundHalfEven(rnd.Rnd() * 7.0f) + 1.0f);
-        SmallBlind = 100;
+            g.ButtonSeat = static_cast<int16_t>(RoundHalfEven(g.rnd.Rnd() * 7.0f) + 1.0f);
+        g.SmallBlind = 100;
     }
     for (int s = 1; s <= kSeats; ++s) {
-        view.lblBank[s].text = Money(RosterBank[s]);
-        view.lblName[s].text = SeatName[s];
-        view.lblName[s].visible = view.lblBankDollarSign[s].visible = view.lblBank[s].visible = true;
+        g.view.lblBank[s].text = Money(g.RosterBank[s]);
+        g.view.lblName[s].text = g.SeatName[s];
+        g.view.lblName[s].visible = g.view.lblBankDollarSign[s].visible = g.view.lblBank[s].visible = true;
     }
-    view.lblBlind.text =
-        "Blinds: $" + Money(SmallBlind) + " - $" + Money(2 * static_cast<int64_t>(SmallBlind));
-    view.lblGoodLuck.text = TournamentSize > 8 && PlayersLeft < 9 ? "Final Table!" : "Good Luck!";
-    view.lblGoodLuck.visible = true;
+    g.view.lblBlind.text =
+        "Blinds: $" + Money(g.SmallBlind) + " - $" + Money(2 * static_cast<int64_t>(g.SmallBlind));
+    g.view.lblGoodLuck.text = g.TournamentSize > 8 && g.PlayersLeft < 9 ? "Final Table!" : "Good Luck!";
+    g.view.lblGoodLuck.visible = true;
 
-    if (IsFinished(*this)) {
-        OpenFinishedGame(*this);
+    if (IsFinished(g)) {
+        OpenFinishedGame(g);
         return;
     }
-    GameUnsaved = false;
-    BalanceTables();
-    CardsDealt = 0;
-    StartHand();
+    g.GameUnsaved = false;
+    g.BalanceTables();
+    g.CardsDealt = 0;
+    g.StartHand();
+}
+
+void Game::LoadRoster() {
+    const bool newGame = SavedGamePath.empty();
+    LoadRosterFrom(*this,
+                   ReadRosterFile(newGame ? AppFolder + kGameData : SavedGamePath, newGame, TournamentSize));
 }
 
 void Game::SaveGame() {
@@ -222,8 +244,8 @@ void Game::SaveGame() {
     try {
         WriteRosterFile(*this, SavedGamePath);
         GameUnsaved = false;
-    } catch (const FileError&) {
-        TellNotSaved(*this);
+    } catch (const FileError& e) {
+        TellNotSaved(*this, e.what());
     }
 }
 
@@ -233,13 +255,18 @@ void Game::mnuOpen_Click() {
         platform->MessageBox(kNotOpened, kFailTitle, MsgIcon::Exclamation, MsgButtons::OK);
         return;
     }
-    SavedGamePath = *path;
+    // The whole file is read and checked before the game in play is touched:
+    // a file that fails leaves that game, its path and its menus as they were.
+    RosterFile file;
     try {
-        LoadRoster();
-    } catch (const FileError&) {
-        AbandonGame(*this);
-        platform->MessageBox(kNotOpened, kFailTitle, MsgIcon::Exclamation, MsgButtons::OK);
+        file = ReadRosterFile(*path, false, 0);
+    } catch (const FileError& e) {
+        platform->MessageBox(WithReason(kNotOpened, e.what()), kFailTitle, MsgIcon::Exclamation,
+                             MsgButtons::OK);
+        return;
     }
+    SavedGamePath = *path;
+    LoadRosterFrom(*this, file);
 }
 
 void Game::mnuSave_Click() { SaveGame(); }

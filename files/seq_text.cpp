@@ -1,28 +1,14 @@
 #include "files/seq_text.h"
 
 #include <algorithm>
-#include <atomic>
 #include <charconv>
-#include <chrono>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <system_error>
 
 namespace holdem {
 
-namespace fs = std::filesystem;
-
 namespace {
-
-// Far above any file of the game (a saved tournament of 1,000 is about 40 KB);
-// a larger file is not one of ours and is not read into memory.
-constexpr std::uintmax_t kMaxFileBytes = 16u * 1024u * 1024u;
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
-
-fs::path FsPath(const std::string& utf8) { return fs::path(std::u8string(utf8.begin(), utf8.end())); }
 
 bool EqualsNoCase(const std::string& a, const char* b) {
     std::size_t n = std::char_traits<char>::length(b);
@@ -39,17 +25,8 @@ bool EqualsNoCase(const std::string& a, const char* b) {
 
 // ---- Reading ------------------------------------------------------------------
 
-SeqReader::SeqReader(const std::string& path) : path_(path) {
-    std::error_code ec;
-    fs::path p = FsPath(path);
-    if (path.empty() || !fs::is_regular_file(p, ec)) throw FileError(path + ": no such file");
-    std::uintmax_t size = fs::file_size(p, ec);
-    if (ec) throw FileError(path + ": cannot be read");
-    if (size > kMaxFileBytes) throw FileError(path + ": too large to be a file of the game");
-    std::ifstream in(p, std::ios::binary);
-    if (!in) throw FileError(path + ": cannot be opened");
-    text_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    if (in.bad()) throw FileError(path + ": cannot be read");
+SeqReader::SeqReader(const std::string& path, std::uintmax_t maxBytes)
+    : text_(ReadBoundedFile(path, maxBytes)) {
     // A file saved again by a text editor may carry a UTF-8 mark in front.
     if (text_.rfind("\xEF\xBB\xBF", 0) == 0) pos_ = 3;
 }
@@ -57,32 +34,49 @@ SeqReader::SeqReader(const std::string& path) : path_(path) {
 SeqReader SeqReader::FromText(std::string text) {
     SeqReader r;
     r.text_ = std::move(text);
-    r.path_ = "(text)";
     return r;
 }
 
+int SeqReader::Line() const {
+    // CR LF, LF and a CR alone each end a line.
+    int line = 1;
+    const std::size_t upTo = std::min(itemStart_, text_.size());
+    for (std::size_t i = 0; i < upTo; ++i)
+        if (text_[i] == '\n' || (text_[i] == '\r' && (i + 1 >= text_.size() || text_[i + 1] != '\n'))) ++line;
+    return line;
+}
+
+void SeqReader::Refuse(const std::string& what) const {
+    throw FileError("Line " + std::to_string(Line()) + ": " + what + ".");
+}
+
 void SeqReader::Fail(const std::string& what) const {
-    auto upTo = text_.begin() + static_cast<std::ptrdiff_t>(std::min(pos_, text_.size()));
-    int line = 1 + static_cast<int>(std::count(text_.begin(), upTo, '\n'));
-    throw FileError(path_ + ": line " + std::to_string(line) + ": " + what);
+    throw FileError("Line " + std::to_string(Line()) + ", item " + std::to_string(itemInLine_) + ": " + what +
+                    ".");
 }
 
 SeqReader::Item SeqReader::NextItem() {
     const std::size_t n = text_.size();
     // Blanks and empty lines before an item carry nothing.
-    while (pos_ < n && (IsBlank(text_[pos_]) || IsLineEnd(text_[pos_]))) ++pos_;
-    if (pos_ >= n) Fail("the file ends early");
+    while (pos_ < n && (IsBlank(text_[pos_]) || IsLineEnd(text_[pos_]))) {
+        if (IsLineEnd(text_[pos_])) atLineStart_ = true;
+        ++pos_;
+    }
+    itemStart_ = pos_;
+    itemInLine_ = atLineStart_ ? 1 : itemInLine_ + 1;
+    atLineStart_ = false;
+    if (pos_ >= n) Fail("the file ends before this item");
 
     Item item;
     if (text_[pos_] == '"') {
         item.quoted = true;
         std::size_t close = pos_ + 1;
         while (close < n && text_[close] != '"' && !IsLineEnd(text_[close])) ++close;
-        if (close >= n || text_[close] != '"') Fail("a quoted string is not closed");
+        if (close >= n || text_[close] != '"') Fail("a quoted text is not closed on its line");
         item.text = text_.substr(pos_ + 1, close - pos_ - 1);
         pos_ = close + 1;
         while (pos_ < n && IsBlank(text_[pos_])) ++pos_;
-        if (pos_ < n && text_[pos_] != ',' && !IsLineEnd(text_[pos_])) Fail("text follows a quoted string");
+        if (pos_ < n && text_[pos_] != ',' && !IsLineEnd(text_[pos_])) Fail("text follows the closing quote");
     } else {
         std::size_t end = pos_;
         while (end < n && text_[end] != ',' && !IsLineEnd(text_[end])) ++end;
@@ -98,39 +92,38 @@ SeqReader::Item SeqReader::NextItem() {
         } else if (text_[pos_] == '\r') {
             ++pos_;
             if (pos_ < n && text_[pos_] == '\n') ++pos_;
+            atLineStart_ = true;
         } else if (text_[pos_] == '\n') {
             ++pos_;
+            atLineStart_ = true;
         }
     }
     return item;
 }
 
-int64_t SeqReader::ReadWhole(int64_t lo, int64_t hi, const char* kind) {
+int64_t SeqReader::ReadWhole(int64_t lo, int64_t hi) {
     Item item = NextItem();
     const std::string& t = item.text;
-    if (item.quoted || t.empty()) Fail(std::string("a number is expected for ") + kind);
+    const char* kExpected = "a whole number is expected";
+    if (item.quoted || t.empty()) Fail(kExpected);
     const char* first = t.data();
     const char* last = t.data() + t.size();
     bool negative = *first == '-';
     if (*first == '-' || *first == '+') ++first;
-    if (first == last || *first < '0' || *first > '9') Fail(std::string("a number is expected for ") + kind);
+    if (first == last || *first < '0' || *first > '9') Fail(kExpected);
     uint64_t magnitude = 0;
     auto [ptr, ec] = std::from_chars(first, last, magnitude);
-    if (ec == std::errc() && ptr != last) Fail(std::string("a number is expected for ") + kind);
-    if (ec != std::errc() || magnitude > static_cast<uint64_t>(INT64_MAX))
-        Fail(std::string("the number is too large for ") + kind);
+    if (ec == std::errc() && ptr != last) Fail(kExpected);
+    const std::string range = "the number is outside " + std::to_string(lo) + " to " + std::to_string(hi);
+    if (ec != std::errc() || magnitude > static_cast<uint64_t>(INT64_MAX)) Fail(range);
     int64_t value = negative ? -static_cast<int64_t>(magnitude) : static_cast<int64_t>(magnitude);
-    if (value < lo || value > hi) Fail(std::string("the number is too large for ") + kind);
+    if (value < lo || value > hi) Fail(range);
     return value;
 }
 
-int16_t SeqReader::ReadInt16() {
-    return static_cast<int16_t>(ReadWhole(INT16_MIN, INT16_MAX, "a 16-bit item"));
-}
+int16_t SeqReader::ReadInt16() { return static_cast<int16_t>(ReadWhole(INT16_MIN, INT16_MAX)); }
 
-int32_t SeqReader::ReadInt32() {
-    return static_cast<int32_t>(ReadWhole(INT32_MIN, INT32_MAX, "a 32-bit item"));
-}
+int32_t SeqReader::ReadInt32() { return static_cast<int32_t>(ReadWhole(INT32_MIN, INT32_MAX)); }
 
 bool SeqReader::ReadBool() {
     Item item = NextItem();
@@ -182,34 +175,7 @@ SeqWriter& SeqWriter::EndLine() {
     return *this;
 }
 
-void SeqWriter::Commit() {
-    static std::atomic<unsigned> counter{0};
-    if (path_.empty()) throw FileError("no file name given");
-    fs::path target = FsPath(path_);
-    std::error_code ec;
-    if (fs::is_directory(target, ec)) throw FileError(path_ + ": is a folder");
-
-    auto stamp = static_cast<unsigned long long>(std::chrono::steady_clock::now().time_since_epoch().count());
-    fs::path temp = target;
-    temp += FsPath(".~" + std::to_string(stamp % 1000000) + "-" + std::to_string(++counter) + ".tmp");
-    {
-        std::ofstream out(temp, std::ios::binary | std::ios::trunc);
-        if (!out) throw FileError(path_ + ": cannot be written");
-        out.write(text_.data(), static_cast<std::streamsize>(text_.size()));
-        out.flush();
-        if (!out) {
-            out.close();
-            fs::remove(temp, ec);
-            throw FileError(path_ + ": cannot be written");
-        }
-    }
-    fs::rename(temp, target, ec);
-    if (ec) {
-        std::error_code ignored;
-        fs::remove(temp, ignored);
-        throw FileError(path_ + ": cannot be replaced");
-    }
-}
+void SeqWriter::Commit() { WriteFileAtomically(path_, text_); }
 
 std::string QuoteSafe(const std::string& text) {
     std::string out = text;

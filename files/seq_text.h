@@ -10,27 +10,24 @@
 //     end both end an item, blanks before an item are skipped, and a comma
 //     inside quotes belongs to the string.
 //
-// Every failure of a read or a write is a FileError. It never reaches the
-// window: the routines that handle file failures catch it and tell the user.
+// Every failure of a read or a write is a FileError (files/safe_file.h). It
+// never reaches the window: the routines that handle file failures catch it
+// and tell the user why, by line and item where the text is at fault.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <stdexcept>
 #include <string>
 
-namespace holdem {
+#include "files/safe_file.h"
 
-class FileError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
+namespace holdem {
 
 // Reads a whole file at construction and hands out its items in order.
 class SeqReader {
 public:
-    // Throws FileError when the file cannot be opened or read.
-    explicit SeqReader(const std::string& path);
+    // Throws FileError when the file is missing, unreadable or over maxBytes.
+    explicit SeqReader(const std::string& path, std::uintmax_t maxBytes = kMaxRosterFileBytes);
     static SeqReader FromText(std::string text);
 
     // Each throws FileError when the file ends before the item, when the item
@@ -43,20 +40,27 @@ public:
     // True when nothing but blanks and line ends is left.
     bool AtEnd();
 
+    // Throws FileError "Line N: what." for the line of the item read last,
+    // when its value is of the right kind but not one the game can take.
+    [[noreturn]] void Refuse(const std::string& what) const;
+
 private:
     SeqReader() = default;
+    int Line() const;
     struct Item {
         std::string text;
         bool quoted = false;
     };
     Item NextItem();
-    int64_t ReadWhole(int64_t lo, int64_t hi, const char* kind);
+    int64_t ReadWhole(int64_t lo, int64_t hi);
+    // "Line N, item K: what." for the item being read.
     [[noreturn]] void Fail(const std::string& what) const;
 
     std::string text_;
     std::size_t pos_ = 0;
-    int line_ = 1;
-    std::string path_;
+    std::size_t itemStart_ = 0;
+    int itemInLine_ = 0;
+    bool atLineStart_ = true;
 };
 
 // Collects lines in memory; Commit() writes them to a temporary file beside

@@ -86,7 +86,7 @@ void Game::ReadSettings() {
     bool tips = true;
     try {
         std::string userPath = UserSettingsPath(*this);
-        SeqReader in(FileExists(userPath) ? userPath : AppFolder + kSettingsFile);
+        SeqReader in(FileExists(userPath) ? userPath : AppFolder + kSettingsFile, kMaxSettingsFileBytes);
         int16_t fileSpeed = in.ReadInt16();
         bool fileSound = in.ReadBool();
         bool fileTips = in.ReadBool();

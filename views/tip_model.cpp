@@ -1,9 +1,10 @@
 #include "views/tip_model.h"
 
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
 
 #include "engine/game_state.h"
+#include "files/safe_file.h"
 
 namespace holdem {
 
@@ -16,13 +17,20 @@ void LoadTipForm(TipBox& box, Game& game) {
 bool LoadTips(TipBox& box, Random& rnd, const std::string& path) {
     std::error_code error;
     if (path.empty() || !std::filesystem::is_regular_file(path, error)) return false;
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return false;
     box.Tips.clear();
-    std::string line;
-    while (std::getline(in, line)) {
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        box.Tips.push_back(line);
+    std::string text;
+    try {
+        text = ReadBoundedFile(path, kMaxTipsFileBytes);
+    } catch (const FileError& e) {
+        // Found but not fit to show: the box says why and holds no tip.
+        box.lblTipText = e.what();
+        return true;
+    }
+    for (std::size_t start = 0; start < text.size();) {
+        std::size_t end = std::min(text.find('\n', start), text.size());
+        std::size_t cut = end > start && text[end - 1] == '\r' ? end - 1 : end;
+        box.Tips.push_back(text.substr(start, cut - start));
+        start = end + 1;
     }
     PickNextTip(box, rnd);
     return true;
