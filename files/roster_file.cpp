@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "engine/end_of_hand.h"
+#include "engine/log_events.h"
 #include "files/seq_text.h"
 
 namespace holdem {
@@ -205,6 +206,7 @@ void Game::LoadRoster() {
         return;
     }
     GameUnsaved = false;
+    LogEvent(*this, MakeLine(LogKind::GameStart, {}, TournamentSize, newGame));
     BalanceTables();
     CardsDealt = 0;
     StartHand();
