@@ -137,7 +137,8 @@ void LogBlinds(Game& g) {
 }
 
 void LogUserTableChanges(Game& g, const RosterNumbers& before) {
-    if (!g.view.logging || g.RosterBank[1] <= 0) return;
+    // Once the user is out, table 1 is nobody's table to follow.
+    if (!g.view.logging || g.RosterBank[1] <= 0 || g.UserFinishPlace > 0) return;
     auto tableBefore = [&](int16_t number) {
         for (int p = 1; p <= kRoster; ++p)
             if (before[p] == number) return TableOf(p);

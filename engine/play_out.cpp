@@ -109,7 +109,7 @@ TourneyFigures ComputeTourneyFigures(const Game& g) {
         if (g.RosterBank[p] > g.RosterBank[kUser]) ++above;
     }
     if (f.playersLeft > 0) f.averageStack = (chips + f.playersLeft / 2) / f.playersLeft;
-    if (g.RosterBank[kUser] > 0) f.userPlace = above + 1;
+    if (g.RosterBank[kUser] > 0 && g.UserFinishPlace == 0) f.userPlace = above + 1;
     BlindRise rise = NextBlindRise(g.TournamentSize, g.SmallBlind);
     f.nextRiseAt = rise.playersLeft;
     f.nextSmallBlind = rise.smallBlind;
