@@ -124,8 +124,8 @@ void LogHandStart(Game& g) {
 }
 
 void LogBlinds(Game& g) {
+    if (!g.view.logging) return;
     for (int seat : {g.SmallBlindSeat, g.BigBlindSeat}) {
-        if (!g.view.logging) return;
         LogLine line;
         line.kind = LogKind::Blind;
         line.name = g.RosterName[seat];
@@ -139,28 +139,20 @@ void LogBlinds(Game& g) {
 void LogUserTableChanges(Game& g, const RosterNumbers& before) {
     // Once the user is out, table 1 is nobody's table to follow.
     if (!g.view.logging || g.RosterBank[1] <= 0 || g.UserFinishPlace > 0) return;
-    auto tableBefore = [&](int16_t number) {
+    auto positionOf = [](const RosterNumbers& numbers, int16_t number) {
         for (int p = 1; p <= kRoster; ++p)
-            if (before[p] == number) return TableOf(p);
+            if (numbers[p] == number) return p;
         return 0;
     };
-    auto atUserTable = [](const RosterNumbers& numbers, const Game& game, int16_t number, bool now) {
-        for (int p = 2; p <= kSeats; ++p)
-            if (numbers[p] == number && (!now || game.RosterBank[p] > 0)) return true;
-        return false;
-    };
     for (int p = 2; p <= kSeats; ++p) {
-        int16_t number = before[p];
-        if (number == 0 || atUserTable(g.RosterNumber, g, number, true)) continue;
-        for (int q = 1; q <= kRoster; ++q) {
-            if (g.RosterNumber[q] != number) continue;
-            if (g.RosterBank[q] > 0) LogEvent(g, MakeLine(LogKind::Left, g.RosterName[q], TableOf(q)));
-            break;
-        }
+        int now = positionOf(g.RosterNumber, before[p]);
+        if (before[p] != 0 && TableOf(now) != 1 && g.RosterBank[now] > 0)
+            LogEvent(g, MakeLine(LogKind::Left, g.RosterName[now], TableOf(now)));
     }
     for (int p = 2; p <= kSeats; ++p) {
-        if (g.RosterBank[p] <= 0 || atUserTable(before, g, g.RosterNumber[p], false)) continue;
-        LogEvent(g, MakeLine(LogKind::Joined, g.RosterName[p], tableBefore(g.RosterNumber[p])));
+        int then = positionOf(before, g.RosterNumber[p]);
+        if (g.RosterBank[p] > 0 && TableOf(then) != 1)
+            LogEvent(g, MakeLine(LogKind::Joined, g.RosterName[p], TableOf(then)));
     }
 }
 

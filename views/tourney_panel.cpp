@@ -42,10 +42,14 @@ void TourneyPanel::Show(const TourneyFigures& f, const QStringList& joined) {
                 kit::Q(Money(f.playersLeft)) + QStringLiteral(" of ") + kit::Q(Money(f.fieldSize)));
     rows += Row(QStringLiteral("Tables in play"), QString::number(f.tablesInPlay));
     rows += Row(QStringLiteral("Blinds"), Blinds(f.smallBlind));
-    rows += Row(QStringLiteral("Next blinds"),
-                f.nextRiseAt > 0 ? Blinds(f.nextSmallBlind) + QStringLiteral(" at ") +
-                                       QString::number(f.nextRiseAt) + QStringLiteral(" left")
-                                 : QStringLiteral("none"));
+    // The blinds follow the count of the hand before, so a rise that the
+    // field has reached comes one hand later.
+    QString next = QStringLiteral("none");
+    if (f.nextRiseAt > 0 && f.playersLeft <= f.nextRiseAt)
+        next = Blinds(f.nextSmallBlind) + QStringLiteral(" after the next hand");
+    else if (f.nextRiseAt > 0)
+        next = Blinds(f.nextSmallBlind) + QStringLiteral(" at %1 left").arg(f.nextRiseAt);
+    rows += Row(QStringLiteral("Next blinds"), next);
     rows += Row(QStringLiteral("Your place by chips"),
                 f.userPlace > 0 ? kit::Q(Ordinal(f.userPlace)) : QStringLiteral("out"));
     rows += Row(QStringLiteral("Average stack"), Dollars(f.averageStack));
