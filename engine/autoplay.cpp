@@ -19,13 +19,6 @@ bool IsClosingCheck(const std::string& text) {
            text.rfind("Total Pot: ", 0) == 0;
 }
 
-std::string CardName(int card) {
-    static const char* kRanks = "23456789TJQKA";
-    static const char* kSuits = "hsdc";  // hearts, spades, diamonds, clubs
-    if (card < 1 || card > 52) return "--";
-    return std::string(1, kRanks[RankOf(card) - 1]) + kSuits[SuitOf(card)];
-}
-
 bool UserTurnOpen(const Game& g) { return g.view.cmdPlay[1].visible && g.RunningTimer() == kTimerCount; }
 
 int64_t FieldChips(const Game& g) {
@@ -115,82 +108,48 @@ int Choose(Game& g, SimPlatform& plat, Policy policy, bool raisedThisStreet) {
     return 1;
 }
 
+// Prints the engine's own events as the window's hand log shows them.
 class HandLog {
 public:
     explicit HandLog(std::FILE* out) : out_(out) {}
 
-    void StartOfHand(const Game& g) {
+    // Prints what the game has logged since the last call, and takes it away.
+    void Print(Game& g) {
         if (!out_) return;
-        std::fprintf(out_, "\nHand %d: button seat %d, blinds $%s - $%s\n", g.HandsPlayed, g.ButtonSeat,
-                     Money(g.SmallBlind).c_str(), Money(2LL * g.SmallBlind).c_str());
-        std::fprintf(out_, "  You hold %s %s\n", CardName(g.SeatCards[1][1]).c_str(),
-                     CardName(g.SeatCards[1][2]).c_str());
-        lastBoard_ = 0;
-        Remember(g);
-        Changes(g);
-    }
-
-    void AfterStep(const Game& g) {
-        if (!out_) return;
-        int board = 0;
-        for (int k = 17; k <= 21; ++k) board += g.view.icard[k].visible ? 1 : 0;
-        if (board != lastBoard_ && (board == 3 || board == 4 || board == 5)) {
-            static const char* kStreet[] = {"", "", "", "Flop", "Turn", "River"};
-            std::fprintf(out_, "  *** %s:", kStreet[board]);
-            for (int k = 17; k < 17 + board; ++k) std::fprintf(out_, " %s", CardName(g.view.icard[k].picture).c_str());
-            std::fprintf(out_, " ***\n");
+        for (const LogLine& line : g.view.log) {
+            if (line.kind == LogKind::HandStart) std::fputc('\n', out_);
+            std::fprintf(out_, "%s\n", FormatLogLine(line).c_str());
         }
-        if (board > lastBoard_) lastBoard_ = board;
-        Changes(g);
-    }
-
-    void EndOfHand(const Game& g) {
-        if (!out_) return;
-        for (int s = 1; s <= kSeats; ++s) {
-            if (g.view.lblPaid[s].visible)
-                std::fprintf(out_, "  %s: %s, now $%s\n", g.view.lblName[s].text.c_str(),
-                             g.view.lblPaid[s].text.c_str(), g.view.lblBank[s].text.c_str());
-        }
-        if (g.TournamentSize > 8)
-            std::fprintf(out_, "  Round over: %d players left on %d tables, next blinds $%s - $%s\n",
-                         g.PlayersLeft, g.TablesInPlay, Money(g.SmallBlind).c_str(),
-                         Money(2LL * g.SmallBlind).c_str());
+        g.view.log.clear();
     }
 
 private:
-    void Remember(const Game& g) {
-        for (int s = 1; s <= kSeats; ++s) last_[s] = g.view.lblBet[s].text;
-    }
-    void Changes(const Game& g) {
-        for (int s = 1; s <= kSeats; ++s) {
-            const std::string& now = g.view.lblBet[s].text;
-            if (now != last_[s] && !now.empty())
-                std::fprintf(out_, "  %s: %s\n", g.view.lblName[s].text.c_str(), now.c_str());
-        }
-        Remember(g);
-    }
-
     std::FILE* out_;
-    std::array<std::string, 9> last_{};
-    int lastBoard_ = 0;
 };
 
 }  // namespace
 
 bool ParsePolicy(const std::string& name, Policy& out) {
-    if (name == "caller") out = Policy::Caller;
-    else if (name == "folder") out = Policy::Folder;
-    else if (name == "raiser") out = Policy::Raiser;
-    else if (name == "rule") out = Policy::Rule;
-    else return false;
+    if (name == "caller")
+        out = Policy::Caller;
+    else if (name == "folder")
+        out = Policy::Folder;
+    else if (name == "raiser")
+        out = Policy::Raiser;
+    else if (name == "rule")
+        out = Policy::Rule;
+    else
+        return false;
     return true;
 }
 
 MsgAnswer SimPlatform::MessageBox(const std::string& text, const std::string& title, MsgIcon icon,
                                   MsgButtons buttons) {
     SilentPlatform::MessageBox(text, title, icon, buttons);
-    if (IsClosingCheck(text)) closingChecks.push_back(text);
-    else ++refusals;
+    if (IsClosingCheck(text))
+        closingChecks.push_back(text);
+    else
+        ++refusals;
     return buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::No;
 }
 
@@ -226,7 +185,8 @@ void SetUpGame(Game& game, int players) {
         game.SeatBank[s] = static_cast<float>(game.RosterBank[s]);
     }
     game.rnd.Randomize();
-    for (int i = 0; i < 3; ++i) game.ButtonSeat = static_cast<int16_t>(RoundHalfEven(game.rnd.Rnd() * 7.0f) + 1);
+    for (int i = 0; i < 3; ++i)
+        game.ButtonSeat = static_cast<int16_t>(RoundHalfEven(game.rnd.Rnd() * 7.0f) + 1);
     game.SmallBlind = 100;
     game.GameUnsaved = false;
     game.StopHandTimers();
@@ -300,7 +260,8 @@ void CheckField(const Game& g, int64_t fieldChips, std::vector<std::string>& vio
         int place = g.RosterPlace[p];
         if (g.RosterBank[p] < 0) fail("negative bank");
         if (place != 0) {
-            if (place < 1 || place > n || seenPlace[place]++) fail("finishing place given twice or out of range");
+            if (place < 1 || place > n || seenPlace[place]++)
+                fail("finishing place given twice or out of range");
             if (g.RosterBank[p] != 0) fail("a placed player holds chips");
         } else if (g.RosterBank[p] == 0) {
             fail("a busted player has no place");
@@ -313,10 +274,11 @@ void CheckField(const Game& g, int64_t fieldChips, std::vector<std::string>& vio
 }
 
 GameResult PlayOneGame(const std::string& appFolder, int players, uint64_t seed, Policy policy,
-                       std::FILE* log) {
+                       std::FILE* log, const std::function<void(Game&)>& atEnd) {
     SimPlatform plat;
     Game g(plat);
     g.AppFolder = appFolder;
+    g.view.logging = log != nullptr;
     g.view.mnuSound.checked = true;  // sounds are silent here, but take every path
     g.rnd.SeedDeterministic(seed);
     GameResult r;
@@ -332,7 +294,7 @@ GameResult PlayOneGame(const std::string& appFolder, int players, uint64_t seed,
 
     while (r.hands < kMaxHandsPerGame) {
         ++r.hands;
-        hlog.StartOfHand(g);
+        hlog.Print(g);
         int street = 0;
         bool raised = false;
         int steps = 0;
@@ -362,12 +324,12 @@ GameResult PlayOneGame(const std::string& appFolder, int players, uint64_t seed,
             }
             std::string why;
             if (!g.state_is_ok(&why)) violate(why);
-            hlog.AfterStep(g);
+            hlog.Print(g);
         }
         if (steps == kMaxStepsPerHand) violate("the hand never ended");
         for (const auto& text : plat.closingChecks) violate("closing check fired: " + text);
         plat.closingChecks.clear();
-        hlog.EndOfHand(g);
+        hlog.Print(g);
         CheckField(g, fieldChips, r.violations);
         for (int s = 1; s <= kSeats; ++s) sig.Mix(static_cast<uint64_t>(g.RosterBank[s]));
         sig.Mix(static_cast<uint64_t>(g.PlayersLeft));
@@ -381,7 +343,8 @@ GameResult PlayOneGame(const std::string& appFolder, int players, uint64_t seed,
     }
     if (!g.GameEnded) violate("the game did not end");
     r.userWon = g.RosterBank[1] == fieldChips;
-    if (!r.userWon && g.RosterBank[1] != 0) violate("the game ended with the user neither out nor holding every chip");
+    if (!r.userWon && g.RosterBank[1] != 0)
+        violate("the game ended with the user neither out nor holding every chip");
     r.userPlace = r.userWon ? 1 : g.UserFinishPlace;
     // Every busted player holds one of the places from the bottom up.
     std::vector<int> places;
@@ -395,6 +358,8 @@ GameResult PlayOneGame(const std::string& appFolder, int players, uint64_t seed,
         }
     if (r.userWon && static_cast<int>(places.size()) != players - 1) violate("places incomplete at the end");
     r.hash = sig.value;
+    if (atEnd) atEnd(g);
+    hlog.Print(g);
     return r;
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -66,10 +67,11 @@ struct Signature {
 // holds gamedata.dat, else eight-to-a-thousand generated players.
 void SetUpGame(Game& game, int players);
 
-// Plays one game to its end. A log, when given, gets each street, each action
-// as the table's label reads, the showdown and the payments.
+// Plays one game to its end. A log, when given, gets the engine's events in
+// plain words, as the window's hand log shows them. `atEnd`, when given, gets
+// the game once it is over.
 GameResult PlayOneGame(const std::string& appFolder, int players, uint64_t seed, Policy policy,
-                       std::FILE* log);
+                       std::FILE* log, const std::function<void(Game&)>& atEnd = {});
 
 // Checks of the whole field after a hand; appends what is wrong.
 void CheckField(const Game& game, int64_t fieldChips, std::vector<std::string>& violations);

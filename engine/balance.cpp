@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "engine/game_state.h"
+#include "engine/log_events.h"
 
 namespace holdem {
 
@@ -75,6 +76,7 @@ int PlayersAtUserTable(const Game& g) {
 
 void Game::BalanceTables() {
     if (TournamentSize == kSingleTableSize) return;
+    const RosterNumbers numbersBefore = RosterNumber;
 
     TableCounts tableCount{};
     int userTableBefore = 0;
@@ -116,6 +118,7 @@ void Game::BalanceTables() {
             MoveOnePlayer(*this, fullest, emptiest);
     }
 
+    LogUserTableChanges(*this, numbersBefore);
     if (!view.mnuSound.checked) return;
     int joined = PlayersAtUserTable(*this) - userTableBefore;
     if (joined >= 1 && joined <= kMovedSounds) platform->PlaySound(kMovedSound[joined]);

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "engine/game_state.h"
+#include "engine/log_events.h"
 
 namespace holdem {
 
@@ -48,6 +49,8 @@ constexpr BlindTable kBlindTables[] = {
 // The user is roster entry 1 and sits in seat 1.
 constexpr int kUser = 1;
 
+}  // namespace
+
 // Players who bust in the same count take consecutive places in rising roster
 // order, the lowest entry the highest number.
 void CountAndPlace(Game& g) {
@@ -60,14 +63,22 @@ void CountAndPlace(Game& g) {
         } else if (g.RosterPlace[i] == 0) {
             g.RosterPlace[i] = g.NextFinishPlace;
             if (g.RosterNumber[i] == kUser) g.UserFinishPlace = g.NextFinishPlace;
+            LogEvent(g, MakeLine(g.RosterNumber[i] == kUser ? LogKind::UserOut : LogKind::Busted,
+                                 g.RosterName[i], g.NextFinishPlace));
             --g.NextFinishPlace;
         }
     }
 }
 
-}  // namespace
+void LogFieldSummary(Game& g) {
+    if (g.TournamentSize <= kSeats) return;
+    LogLine line = MakeLine(LogKind::Field, {}, g.PlayersLeft);
+    line.amount = g.SmallBlind;
+    line.total = g.TablesInPlay;
+    LogEvent(g, std::move(line));
+}
 
-std::string FinishText(int16_t place) {
+std::string Ordinal(int place) {
     int lastTwo = place % 100;
     int last = place % 10;
     const char* ending = "th";
@@ -76,8 +87,10 @@ std::string FinishText(int16_t place) {
         if (last == 2) ending = "nd";
         if (last == 3) ending = "rd";
     }
-    return "You Finished " + Plain(place) + ending;
+    return Plain(place) + ending;
 }
+
+std::string FinishText(int16_t place) { return "You Finished " + Ordinal(place); }
 
 void Game::CloseHand() {
     for (int s = 1; s <= kSeats; ++s) BreakdownName[s] = RosterName[s];
@@ -94,6 +107,7 @@ void Game::CloseHand() {
         EndGameForUser();
     } else if (PlayersLeft != 1) {
         BalanceTables();
+        LogFieldSummary(*this);
         view.cmdDeal.visible = true;
         view.cmdStandings.visible = true;
         view.cmdFloor.visible = true;
@@ -114,6 +128,16 @@ void Game::SetBlinds() {
     }
 }
 
+BlindRise NextBlindRise(int16_t tournamentSize, int32_t smallBlind) {
+    for (const BlindTable& table : kBlindTables) {
+        if (table.tournamentSize != tournamentSize) continue;
+        for (std::size_t i = 0; i + 1 < table.steps.size(); ++i)
+            if (table.steps[i].smallBlind == smallBlind)
+                return {table.steps[i].above, table.steps[i + 1].smallBlind};
+    }
+    return {};
+}
+
 void Game::EndGameForUser() {
     platform->PlaySound("GAMEOVER");
     GameEnded = true;
@@ -123,6 +147,7 @@ void Game::EndGameForUser() {
 }
 
 void Game::DeclareTournamentWon() {
+    LogEvent(*this, MakeLine(LogKind::Winner, RosterName[kUser], TournamentSize, true));
     view.picTableMoney.visible = true;
     platform->PlaySound("WIN");
     GameEnded = true;

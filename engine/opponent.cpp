@@ -7,6 +7,7 @@
 #include <string>
 
 #include "engine/game_state.h"
+#include "engine/log_events.h"
 #include "engine/table_play.h"
 
 namespace holdem {
@@ -227,23 +228,28 @@ std::string AllInWords(const Game& g, int s) { return g.SeatBank[s] <= 0 ? kAllI
 // What a seat that faced a bet did, and its effect on the high bet.
 void SettleFacingBet(Game& g, int s, int32_t amount, bool background) {
     if (g.SeatBet[s] > g.HighBetValue) {
+        const int32_t before = g.HighBetValue;
         g.HighBetValue = g.SeatBet[s];
         g.HighBetIndex = static_cast<int16_t>(s);
         if (background) return;
         g.SeatRaised[s] = true;
         g.view.lblBet[s].text = "Raised to $" + Money(g.HighBetValue) + AllInWords(g, s);
+        LogSeat(g, LogKind::Raise, s, g.HighBetValue - before, g.HighBetValue);
         return;
     }
     if (background) return;
     std::string& label = g.view.lblBet[s].text;
     if (amount > 0) {
         label = "Called $" + Money(amount) + AllInWords(g, s);
+        LogSeat(g, LogKind::Call, s, amount);
     } else if (g.SeatInHand[s]) {
         label = "Checked";
+        LogSeat(g, LogKind::Check, s);
     } else {
         g.view.icard[s].visible = false;
         g.view.icard[s + kSeats].visible = false;
         label = "Folded";
+        LogSeat(g, LogKind::Fold, s);
         if (g.PlayersInHand == 1) {
             g.DisableTimer(TimersOfStreet(g.Street).bet);
             g.EnableTimer(TimerHandOver);
@@ -256,14 +262,23 @@ void SettleFacingBet(Game& g, int s, int32_t amount, bool background) {
 void SettleNothingToCall(Game& g, int s, int32_t amount, bool background) {
     if (amount < 1) {
         if (g.HighBetIndex == 0) g.HighBetIndex = static_cast<int16_t>(s);
-        if (!background) g.view.lblBet[s].text = "Checked";
+        if (!background) {
+            g.view.lblBet[s].text = "Checked";
+            LogSeat(g, LogKind::Check, s);
+        }
         return;
     }
-    const char* words = g.HighBetValue != 0 ? "Raised to $" : "Bet $";
+    const int32_t before = g.HighBetValue;
+    const char* words = before != 0 ? "Raised to $" : "Bet $";
     MarkRaised(g, s, background);
     g.HighBetValue = g.SeatBet[s];
     g.HighBetIndex = static_cast<int16_t>(s);
-    if (!background) g.view.lblBet[s].text = words + Money(g.HighBetValue) + AllInWords(g, s);
+    if (background) return;
+    g.view.lblBet[s].text = words + Money(g.HighBetValue) + AllInWords(g, s);
+    if (before != 0)
+        LogSeat(g, LogKind::Raise, s, g.HighBetValue - before, g.HighBetValue);
+    else
+        LogSeat(g, LogKind::Bet, s, g.HighBetValue);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "engine/game_state.h"
+#include "engine/log_events.h"
 
 namespace holdem {
 
@@ -207,6 +208,15 @@ void ShowPayments(Game& g, const Settlement& w) {
     }
 }
 
+void LogPayments(Game& g, const Settlement& w) {
+    for (int s = 1; s <= kSeats; ++s)
+        if (w.Paid[s] > 0) LogSeat(g, LogKind::Paid, s, w.Paid[s], g.RosterBank[s]);
+    LogLine result = MakeLine(LogKind::HandResult, {}, g.PlayersInHand, g.UserWonHand);
+    result.amount = w.TotalBet;
+    result.total = w.Paid[1];
+    LogEvent(g, std::move(result));
+}
+
 }  // namespace
 
 void Game::TimerHandOver_Timer() {
@@ -214,6 +224,7 @@ void Game::TimerHandOver_Timer() {
     CloseBetting(*this, w);
     OrderFinish(*this, w);
     ShowHands(*this);
+    LogShownHands(*this);
     FindLevels(*this, w);
     CutLayers(*this, w);
     for (int place = 1; place <= PlayersInHand; ++place)
@@ -222,6 +233,7 @@ void Game::TimerHandOver_Timer() {
     SoundAndPause(*this);
     CheckTotals(*this, w);
     ShowPayments(*this, w);
+    LogPayments(*this, w);
     CloseHand();
 }
 

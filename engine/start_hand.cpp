@@ -4,6 +4,7 @@
 #include <string>
 
 #include "engine/game_state.h"
+#include "engine/log_events.h"
 #include "engine/table_play.h"
 
 namespace holdem {
@@ -171,6 +172,8 @@ void Game::StartHand() {
     Shuffle(*this);
     LayOutCards(*this);
     PictureTheCards(*this);
+    LogHandStart(*this);
+    LogBlinds(*this);
 
     view.lblGoodLuck.visible = true;
     ShowBettingState(*this);

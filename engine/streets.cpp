@@ -1,6 +1,7 @@
 // The chain of timers that carries a hand: the deal of the hole cards, the
 // board streets and one seat's turn per tick of a Bet timer.
 #include "engine/game_state.h"
+#include "engine/log_events.h"
 #include "engine/table_play.h"
 
 namespace holdem {
@@ -45,6 +46,7 @@ void TurnBoardCard(Game& g, TimerId self, int image, bool last, int cardsKnown, 
     if (!last) return;
     g.DisableTimer(self);
     g.CardsKnown = static_cast<int16_t>(cardsKnown);
+    LogBoard(g, g.Street, cardsKnown - 2);
     g.RankHands();
     ShowArrowAt(g, g.CurrentSeat);
     g.EnableTimer(bet);
@@ -61,6 +63,11 @@ constexpr BetTimerRow kBetHole{1, TimerBetHole, TimerDealFlop};
 constexpr BetTimerRow kBetFlop{2, TimerBetFlop, TimerDealTurn};
 constexpr BetTimerRow kBetTurn{3, TimerBetTurn, TimerDealRiver};
 constexpr BetTimerRow kBetRiver{4, TimerBetRiver, TimerHandOver};
+
+// The large blind closing the round before the flop with nothing raised.
+void LogOptionCheck(Game& g, int seat) {
+    if (seat == g.BigBlindSeat && g.HighBetValue == 2 * g.SmallBlind) LogSeat(g, LogKind::Check, seat);
+}
 
 void RoundOver(Game& g, const BetTimerRow& row) {
     g.DisableTimer(row.self);
@@ -109,6 +116,7 @@ void BetTickSteps(Game& g, const BetTimerRow& row) {
     if (g.CurrentSeat == g.HighBetIndex) {
         v.lblBet[g.PreviousSeat].text.clear();
         v.lblBet[g.CurrentSeat].text = beforeFlop ? "Checked" : "";
+        if (beforeFlop) LogOptionCheck(g, g.CurrentSeat);
         RoundOver(g, row);
         return;
     }
@@ -133,6 +141,7 @@ void BetTickSteps(Game& g, const BetTimerRow& row) {
         // The user in the large blind still gets the option on the next tick.
         if (g.HighBetValue == 2 * g.SmallBlind && g.CurrentSeat == 1) return;
         v.lblBet[g.CurrentSeat].text = g.CurrentSeat == g.BigBlindSeat ? "Checked" : "";
+        LogOptionCheck(g, g.CurrentSeat);
     } else {
         v.lblBet[g.CurrentSeat].text.clear();
     }

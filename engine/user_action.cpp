@@ -2,6 +2,7 @@
 #include <string>
 
 #include "engine/game_state.h"
+#include "engine/log_events.h"
 #include "engine/table_play.h"
 
 namespace holdem {
@@ -52,6 +53,7 @@ void Refuse(Game& g, const char* text) {
 
 void Check(Game& g) {
     g.view.lblBet[1].text = "Checked";
+    LogSeat(g, LogKind::Check, 1);
     if (RoundEndsWithUser(g)) {
         g.EnableTimer(TimersOfStreet(g.Street).next);
         return;
@@ -72,6 +74,7 @@ void Call(Game& g) {
     }
     g.view.lblBet[1].text = label;
     MoveUserChips(g, amount);
+    LogSeat(g, LogKind::Call, 1, amount);
     EndRoundOrContinue(g);
 }
 
@@ -103,7 +106,8 @@ bool BetOrRaise(Game& g) {
     }
 
     const char* allIn = g.SeatBank[1] == static_cast<float>(g.BetAmount) ? kAllIn : "";
-    if (g.HighBetValue != 0) {
+    const bool raise = g.HighBetValue != 0;
+    if (raise) {
         g.HighBetIndex = 1;
         g.HighBetValue = g.SeatBet[1] + g.BetAmount;
         g.RaiseByAmount = g.BetAmount - g.ToCallAmount;
@@ -114,6 +118,10 @@ bool BetOrRaise(Game& g) {
         g.HighBetIndex = 1;
     }
     MoveUserChips(g, g.BetAmount);
+    if (raise)
+        LogSeat(g, LogKind::Raise, 1, g.RaiseByAmount, g.HighBetValue);
+    else
+        LogSeat(g, LogKind::Bet, 1, g.BetAmount);
     ContinueRound(g);
     return true;
 }
@@ -136,6 +144,7 @@ void Fold(Game& g) {
     g.view.icard[1].visible = false;
     g.view.icard[9].visible = false;
     g.view.lblBet[1].text = "Folded";
+    LogSeat(g, LogKind::Fold, 1);
     --g.PlayersInHand;
     if (g.PlayersInHand <= 1) {
         g.EnableTimer(TimerHandOver);

@@ -5,6 +5,9 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "engine/hand_log.h"
 
 namespace holdem {
 
@@ -57,6 +60,11 @@ struct View {
     Element mnuHelpIndex, mnuRules, mnuAbout;
 
     std::array<TimerState, kTimerCount> timer{};
+
+    // Events of the user's table and the field, oldest first; readers take
+    // them away. With logging off nothing is written.
+    std::vector<LogLine> log;
+    bool logging = true;
 };
 
 }  // namespace holdem

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "engine/end_of_hand.h"
+#include "engine/log_events.h"
 #include "files/seq_text.h"
 
 namespace holdem {
@@ -221,6 +222,7 @@ void LoadRosterFrom(Game& g, const RosterFile& f) {
         return;
     }
     g.GameUnsaved = false;
+    LogEvent(g, MakeLine(LogKind::GameStart, {}, g.TournamentSize, newGame));
     g.BalanceTables();
     g.CardsDealt = 0;
     g.StartHand();

@@ -4,8 +4,11 @@
 // timer ran and that no closing check fired. Exits non-zero on any violation.
 //
 //   holdem-sim --players 8|80|200|1000 --games N --seed S
-//              --policy caller|folder|raiser|rule [--log]
+//              --policy caller|folder|raiser|rule [--log] [--play-out]
 //   holdem-sim --bench
+//
+// --play-out: once the user is out, the rest of the field plays on to its
+// winner by the game's own routines, and the final standings are printed.
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -19,8 +22,10 @@
 #include <vector>
 
 #include "engine/autoplay.h"
+#include "engine/end_of_hand.h"
 #include "engine/game_state.h"
 #include "engine/hand_rank.h"
+#include "engine/play_out.h"
 
 using namespace holdem;
 using namespace holdem::sim;
@@ -34,13 +39,14 @@ struct Options {
     Policy policy = Policy::Rule;
     bool log = false;
     bool bench = false;
+    bool playOut = false;
 };
 
 [[noreturn]] void Usage(const char* why) {
     std::fprintf(stderr,
                  "holdem-sim: %s\n"
                  "usage: holdem-sim [--players 8|80|200|1000] [--games N] [--seed S]\n"
-                 "                  [--policy caller|folder|raiser|rule] [--log] | --bench\n",
+                 "                  [--policy caller|folder|raiser|rule] [--log] [--play-out] | --bench\n",
                  why);
     std::exit(2);
 }
@@ -70,6 +76,8 @@ Options Parse(int argc, char** argv) {
             if (!ParsePolicy(value("--policy"), o.policy)) Usage("unknown policy");
         } else if (a == "--log") {
             o.log = true;
+        } else if (a == "--play-out") {
+            o.playOut = true;
         } else if (a == "--bench") {
             o.bench = true;
         } else {
@@ -219,6 +227,20 @@ void PrintRankFigures(const RankFigures& f) {
         street[2]->buildMilliseconds, flushes.buildMilliseconds);
 }
 
+// A whole seeded 1,000-player tournament to its winner: the user's game on
+// the opponents' rule, then the rest of the field played out.
+void BenchPlayOut(const std::string& appFolder) {
+    constexpr uint64_t kSeed = 7;
+    PlayOutReport report;
+    auto a = std::chrono::steady_clock::now();
+    GameResult r = PlayOneGame(appFolder, 1000, kSeed, Policy::Rule, nullptr,
+                               [&](Game& g) { report = PlayOutField(g); });
+    double seconds = Seconds(a, std::chrono::steady_clock::now());
+    std::printf(
+        "1,000-player tournament to winner %.3f s  (seed %llu, %d shown hands, %d rounds played out)\n",
+        seconds, static_cast<unsigned long long>(kSeed), r.hands, report.rounds);
+}
+
 int RunBench(const std::string& appFolder) {
     Signature sig;
     int violations = 0;
@@ -280,17 +302,46 @@ int RunBench(const std::string& appFolder) {
     std::printf("1,000-player tournament to end    median %.3f s, slowest %.3f s  (%lld shown hands in 5)\n",
                 tournaments[tournaments.size() / 2],
                 *std::max_element(tournaments.begin(), tournaments.end()), tournamentHands);
+    BenchPlayOut(appFolder);
     std::printf("violations                        %d\n", violations);
     return violations == 0 ? 0 : 1;
+}
+
+// After the user's game: the field to its winner, then the standings. A
+// field that does not end with places 1..N, each once, is a violation.
+int PlayOutAndReport(Game& g, std::FILE* log) {
+    if (!CanPlayOutField(g)) return 0;
+    PlayOutReport report = PlayOutField(g);
+    std::vector<Standing> standings = FinalStandings(g);
+    int wrong = report.finished ? 0 : 1;
+    for (std::size_t i = 0; i < standings.size(); ++i)
+        if (standings[i].place != static_cast<int>(i) + 1) ++wrong;
+    if (standings.size() != static_cast<std::size_t>(g.TournamentSize)) ++wrong;
+    if (log) {
+        for (const LogLine& line : g.view.log) std::fprintf(log, "%s\n", FormatLogLine(line).c_str());
+        g.view.log.clear();
+    }
+    std::printf("played out in %d rounds; winner %s\n", report.rounds,
+                standings.empty() ? "none" : standings.front().name.c_str());
+    for (std::size_t i = 0; i < standings.size() && i < 10; ++i)
+        std::printf("  %s  %s\n", Ordinal(standings[i].place).c_str(), standings[i].name.c_str());
+    if (wrong)
+        std::printf("VIOLATION: the played-out field has no complete places 1..%d\n", g.TournamentSize);
+    return wrong;
 }
 
 int PlayGames(const Options& o, const std::string& appFolder) {
     Signature sig;
     Totals totals;
     for (int g = 0; g < o.games; ++g) {
+        int playOutFaults = 0;
+        auto atEnd = [&](Game& game) {
+            if (o.playOut) playOutFaults = PlayOutAndReport(game, o.log ? stdout : nullptr);
+        };
         GameResult r = PlayOneGame(appFolder, o.players, o.seed + static_cast<uint64_t>(g), o.policy,
-                                   o.log ? stdout : nullptr);
+                                   o.log ? stdout : nullptr, atEnd);
         totals.Add(r);
+        totals.violations += playOutFaults;
         sig.Add(r);
         if (!r.violations.empty()) {
             for (const auto& v : r.violations)

@@ -16,6 +16,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "views/follow_panels.h"
 #include "views/qt_platform.h"
 
 namespace holdem {
@@ -251,6 +252,7 @@ frmMain::frmMain(const std::string& appFolder, Platform* platform, QWidget* pare
     BuildTable();
     BuildMenus();
     BuildTimers();
+    follow = new FollowPanels(*this);
     RedrawWidgets();
     setFixedSize(sizeHint());
 }
@@ -525,6 +527,7 @@ void frmMain::SyncTimers() {
 void frmMain::Redraw() {
     RedrawWidgets();
     SyncTimers();
+    follow->AfterRedraw();
 }
 
 // ---- Calls into the game -------------------------------------------------------
@@ -547,6 +550,7 @@ void frmMain::TimerTick(TimerId id) {
 }
 
 void frmMain::PauseTable() {
+    if (skipPause) return;
     repaint();
     QElapsedTimer clock;
     clock.start();
@@ -572,6 +576,7 @@ void frmMain::Start() {
     std::string userData = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
     if (!userData.empty() && userData.back() != '/') userData += '/';
     SetUserDataFolder(game, userData, 0);
+    follow->Load(userData);
     picTableMoney->setGeometry(QRect(QPoint(0, 0), kWinnerPanel));
     Call([this] {
         game.ReadSettings();

@@ -20,6 +20,7 @@ class QTimer;
 namespace holdem {
 
 class QtPlatform;
+class FollowPanels;
 
 class frmMain : public QMainWindow {
     Q_OBJECT
@@ -52,6 +53,10 @@ public:
     void TimerTick(TimerId id);
     // What ends the program; tests replace it.
     std::function<void()> onQuit;
+    // Set while a hand is hurried: the pause of the hand's end is skipped.
+    bool skipPause = false;
+    // The hand log, the tournament figures, Finish Hand, play-out, statistics.
+    FollowPanels* follow = nullptr;
 
     // The table's elements, named as the game names them.
     std::array<QLabel*, 9> lblName{}, lblBankDollarSign{}, lblBank{}, lblBet{}, lblPaid{};
@@ -87,6 +92,7 @@ public:
     bool Busy() const { return busy_; }
 
 protected:
+    friend class FollowPanels;
     void closeEvent(QCloseEvent* event) override;
 
 private:
