@@ -7,10 +7,10 @@ SUDO    := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 PACKAGES := g++ cmake make libgtest-dev \
             qt6-base-dev qt6-multimedia-dev libqt6multimedia6 \
             gstreamer1.0-plugins-base gstreamer1.0-plugins-good \
-            xvfb xauth \
+            xvfb xauth time \
             fonts-liberation fonts-urw-base35 fonts-dejavu-core fonts-lobster
 
-.PHONY: all deps configure build test run bench format clean pictures sounds
+.PHONY: all deps configure build test run bench bench-window format clean pictures sounds
 
 all: build
 
@@ -44,6 +44,11 @@ run: build
 
 bench: build
 	$(BUILD)/bin/holdem-sim --bench
+
+# Launch to the first painted table, and memory at the table: medians of
+# several starts under a virtual display.
+bench-window: build
+	tools/window_bench.sh $(BUILD)/bin/holdem
 
 # Redraw the committed pictures and sounds; a normal build never does. The sound
 # script installs sox and espeak-ng itself: they are tools of the generator only.

@@ -43,7 +43,8 @@ that hand until the next deal.</p>
 raise your own bet.</li>
 <li><b>Fold</b>: give up the hand. It is played out without you.</li>
 </ul>
-<p>The underlined letters work with the Alt key: Alt+H, Alt+C, Alt+B, Alt+F.</p>
+<p>The underlined letters work with the Alt key: Alt+H, Alt+C, Alt+B, Alt+F. Space
+presses a button only after you have moved to it with Tab.</p>
 <p class="head">The bet window</p>
 <p>Type the amount in whole dollars, in steps of $100. When there is a bet to call,
 the amount you type is the raise on top of it: the call is added for you, and the
@@ -53,7 +54,8 @@ takes you back to the buttons. There is no minimum beyond $100.</p>
 <p class="head">Between hands</p>
 <p>The winners are paid ("Paid $") and three buttons appear: <b>Deal</b> starts
 the next hand, <b>Standings</b> lists the field, <b>View Floor</b> shows the
-casino floor. The first hand of a new or opened game is dealt at once.</p>
+casino floor (Alt+D, Alt+S, Alt+V). The first hand of a new or opened game is
+dealt at once.</p>
 )";
 }
 
@@ -75,6 +77,8 @@ field as the last hand left it.</li>
 <li><b>Sound</b> on or off; the end-of-game sounds always play. <b>Speed</b>: Fast,
 Medium or Slow, at once. <b>Tip of the Day</b>: a tip at start.</li>
 <li><b>Help</b> (F1): these pages; <b>Hold'em Rules</b>; <b>About</b>.</li>
+<li>When a button on the table shows the same underlined letter as a menu, Alt and
+the letter press the button; F10 or a click opens the menus.</li>
 </ul>
 <p class="head">Standings</p>
 <p>Players still in come first, most chips first, then those who are out, best

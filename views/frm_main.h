@@ -8,6 +8,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "engine/game_state.h"
 #include "views/view_kit.h"
@@ -20,6 +22,7 @@ class QTimer;
 namespace holdem {
 
 class QtPlatform;
+class TableScene;
 
 class frmMain : public QMainWindow {
     Q_OBJECT
@@ -68,6 +71,9 @@ public:
     kit::PictureBox* picTableMoney = nullptr;
     QLabel* lblYouWon = nullptr;
     kit::PictureBox* table = nullptr;
+    // The central widget: the table scaled to the room the window gives it.
+    // A widget added to the table is placed with scene()->Place(widget, twips).
+    TableScene* scene() const { return scene_; }
 
     QMenu *mnuFile = nullptr, *mnuTourney = nullptr, *mnuSettings = nullptr, *mnuSpeed = nullptr,
           *mnuHelp = nullptr;
@@ -92,7 +98,7 @@ protected:
 private:
     struct AutoSized {
         QLabel* label;
-        QRect box;  // the place in the layout; the label grows around it
+        QRect box;  // the place in the layout, unscaled; the label grows around it
     };
 
     void BuildTable();
@@ -108,10 +114,18 @@ private:
     void SyncTimers();
     bool ExitQuestionNeeded(bool closeBox) const;
     bool Exit(bool closeBox);
+    void AutoSize(QLabel* label, const QRect& layoutBox);
     void SizeToText(const AutoSized& item);
+    void UpdateMenuKeys();
+    static QChar AccessKey(const QString& caption);
+    // Puts the keyboard on the felt, where no key presses a button.
+    void FocusTable();
     void ShowInfo(InfoForm form);
 
+    TableScene* scene_ = nullptr;
     std::vector<AutoSized> autoSized_;
+    std::vector<std::pair<QMenu*, QString>> menuCaptions_;
+    int buttonsShown_ = -1;
     std::unique_ptr<kit::CardPictures> cards_;
     bool busy_ = false;
     bool quitting_ = false;

@@ -57,6 +57,12 @@ frmNewGame::frmNewGame(int16_t gameSpeed, QWidget* parent)
         ok_ = false;
         reject();
     });
+    // Enter is [OK] and Escape [CANCEL]; the keyboard starts on the first list.
+    kit::OnKey(this, Qt::Key_Return, [this] {
+        ok_ = true;
+        accept();
+    });
+    cbGameType->setFocus();
 }
 
 void frmNewGame::cbGameType_Click() { cbPlayers->setEnabled(cbGameType->currentText() == kTournament); }
