@@ -47,7 +47,8 @@ bench: build
 
 # Launch to the first painted table, and memory at the table: medians of
 # several starts under a virtual display.
-bench-window: build
+bench-window: configure
+	cmake --build $(BUILD) --target holdem -j $(JOBS)
 	tools/window_bench.sh $(BUILD)/bin/holdem
 
 # Redraw the committed pictures and sounds; a normal build never does. The sound
