@@ -1,14 +1,10 @@
 // The keyboard at the table and in the dialogs, and the forms opened in the
 // middle of a hand, driven through the real window.
-#include <QAction>
-#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <QtTest>
 
 #include "tests/views/fieldviews_support.h"
 #include "tests/views/window_hand_fixture.h"
@@ -20,7 +16,6 @@
 #include "views/frm_pot_breakdown.h"
 #include "views/frm_rankings.h"
 #include "views/frm_rules.h"
-#include "views/table_scene.h"
 
 using namespace holdem;
 
@@ -34,11 +29,11 @@ public:
     void ShowPotBreakdown(const PotBreakdown& b) override { Open(new frmPotBreakdown(b, w)); }
     void ShowStandings(const std::string& path) override { Open(new frmRankings(path, w)); }
     void ShowFloor(const std::string& path) override { Open(new frmCasinoFloor(path, w)); }
-    void ShowInfo(InfoForm form) override {
-        const std::string& folder = w->game.AppFolder;
-        if (form == InfoForm::Help) Open(new frmHelp(folder, w));
-        if (form == InfoForm::Rules) Open(new frmRules(folder, w));
-        if (form == InfoForm::About) Open(new frmAbout(folder, w));
+    void ShowInfo(InfoForm f) override {
+        const std::string& at = w->game.AppFolder;
+        Open(f == InfoForm::Help    ? static_cast<QDialog*>(new frmHelp(at, w))
+             : f == InfoForm::Rules ? static_cast<QDialog*>(new frmRules(at, w))
+                                    : new frmAbout(at, w));
     }
     void Open(QDialog* form) {
         QTimer::singleShot(0, form, [this, form] {
@@ -51,7 +46,13 @@ public:
 };
 
 bool Shows(QWidget* w) { return w->isVisibleTo(w->window()); }
-bool FocusOnAButton() { return qobject_cast<QPushButton*>(QApplication::focusWidget()) != nullptr; }
+bool FocusOnAButton() { return qobject_cast<QPushButton*>(QApplication::focusWidget()); }
+
+void Activate(QWidget& w) {
+    w.show();
+    QApplication::setActiveWindow(&w);
+    QVERIFY(QTest::qWaitForWindowActive(&w));
+}
 
 // The user's table with slow timers, shown and active, between hands.
 void Open(frmMain& w) {
@@ -60,9 +61,7 @@ void Open(frmMain& w) {
     w.game.GameSpeed = 3;
     w.game.SetGameSpeed();
     w.Redraw();
-    w.show();
-    QApplication::setActiveWindow(&w);
-    QVERIFY(QTest::qWaitForWindowActive(&w));
+    Activate(w);
 }
 
 void RunToTurn(frmMain& w) {
@@ -80,18 +79,16 @@ private slots:
     void accessKeysBetweenHandsAndDuringTheTurn_data() {
         QTest::addColumn<int>("key");
         QTest::addColumn<bool>("onTheFlop");
-        QTest::addColumn<bool>("tabbedToFold");
         QTest::addColumn<QString>("words");  // lblBet(1) after the press
-        QTest::newRow("Alt+C calls") << int(Qt::Key_C) << false << false << "Called $100";
-        QTest::newRow("Alt+F folds") << int(Qt::Key_F) << false << false << "Folded";
-        QTest::newRow("Alt+B asks the amount") << int(Qt::Key_B) << false << false << "Amount to Call: $100";
-        QTest::newRow("Alt+H checks") << int(Qt::Key_H) << true << false << "Checked";
-        QTest::newRow("Space on Fold, moved there") << int(Qt::Key_Space) << true << true << "Folded";
+        QTest::newRow("Alt+C") << int(Qt::Key_C) << false << "Called $100";
+        QTest::newRow("Alt+F") << int(Qt::Key_F) << false << "Folded";
+        QTest::newRow("Alt+B") << int(Qt::Key_B) << false << "Amount to Call: $100";
+        QTest::newRow("Alt+H") << int(Qt::Key_H) << true << "Checked";
+        QTest::newRow("Space on Fold, moved there") << int(Qt::Key_Space) << true << "Folded";
     }
     void accessKeysBetweenHandsAndDuringTheTurn() {
         QFETCH(int, key);
         QFETCH(bool, onTheFlop);
-        QFETCH(bool, tabbedToFold);
         QFETCH(QString, words);
         test::ScriptedPlatform platform;
         frmMain w(QCoreApplication::applicationDirPath().toStdString(), &platform);
@@ -115,14 +112,12 @@ private slots:
         // A new turn: no button holds the keyboard, and Space presses none.
         QVERIFY(!FocusOnAButton());
         const QString before = w.lblBet[1]->text();
-        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &w, Qt::Key_Space);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QTest::keyClick(&w, Qt::Key_Return);
         QCOMPARE(w.lblBet[1]->text(), before);
-        if (tabbedToFold) w.cmdPlay[4]->setFocus(Qt::TabFocusReason);
-        if (key == Qt::Key_Space)
-            QTest::keyClick(w.cmdPlay[4], Qt::Key_Space);
-        else
-            QTest::keyClick(&w, Qt::Key(key), Qt::AltModifier);
+        if (key == Qt::Key_Space) w.cmdPlay[4]->setFocus(Qt::TabFocusReason);  // moved there this turn
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key),
+                        key == Qt::Key_Space ? Qt::NoModifier : Qt::AltModifier);
         QTRY_COMPARE(platform.betRequests.size(), size_t(key == Qt::Key_B));
         QTRY_COMPARE(w.lblBet[1]->text(), words);
         QTRY_VERIFY(!FocusOnAButton());
@@ -168,13 +163,10 @@ private slots:
 
     void dialogKeys() {
         frmNewGame newGame(2);
-        newGame.show();
-        QApplication::setActiveWindow(&newGame);
-        QVERIFY(QTest::qWaitForWindowActive(&newGame));
+        Activate(newGame);
         QCOMPARE(newGame.focusWidget(), newGame.cbGameType);
         QTest::keyClick(&newGame, Qt::Key_Return);
         QVERIFY(!newGame.isVisible() && !newGame.Choices().cancelled);
-
         test::ScriptedPlatform platform;
         frmBetAmount bet(BetAmountRequest{0, 0, 0, 123400}, platform);
         bet.show();
@@ -184,18 +176,17 @@ private slots:
         QCOMPARE(bet.txtBetAmount->selectedText(), QString("1200"));
         QTest::keyClick(bet.txtBetAmount, Qt::Key_Escape);
         QVERIFY(!bet.isVisible() && bet.BetAmount == 0);
-
         QTemporaryDir dir;
         frmRankings standings(test::WriteStnd(dir, test::EvenField(1000)));
-        standings.show();
-        QApplication::setActiveWindow(&standings);
-        QVERIFY(QTest::qWaitForWindowActive(&standings));
-        const std::pair<Qt::Key, QString> pages[] = {{Qt::Key_PageDown, "Page 2"}, {Qt::Key_End, "Page 40"},
-                                                     {Qt::Key_PageUp, "Page 39"},  {Qt::Key_Home, "Page 1"},
-                                                     {Qt::Key_PageUp, "Page 1"},   {Qt::Key_End, "Page 40"}};
-        for (const auto& [key, page] : pages) {
+        Activate(standings);
+        for (auto [key, page] : {std::pair{Qt::Key_PageDown, 2},
+                                 {Qt::Key_End, 40},
+                                 {Qt::Key_PageUp, 39},
+                                 {Qt::Key_Home, 1},
+                                 {Qt::Key_PageUp, 1},
+                                 {Qt::Key_End, 40}}) {
             QTest::keyClick(&standings, key);
-            QCOMPARE(standings.lblPage->text(), page);
+            QCOMPARE(standings.lblPage->text(), QString("Page %1").arg(page));
         }
         QTest::keyClick(&standings, Qt::Key_Return);
         QVERIFY(!standings.isVisible());
