@@ -8,11 +8,11 @@ SUDO    := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 PACKAGES := g++ cmake make libgtest-dev \
             qt6-base-dev qt6-multimedia-dev libqt6multimedia6 \
             gstreamer1.0-plugins-base gstreamer1.0-plugins-good \
-            xvfb xauth \
+            xvfb xauth time \
             desktop-file-utils appstream strace dpkg-dev file \
             fonts-liberation fonts-urw-base35 fonts-dejavu-core fonts-lobster
 
-.PHONY: all deps configure build test run bench format clean pictures sounds install uninstall package
+.PHONY: all deps configure build test run bench format clean pictures sounds install uninstall package bench-window
 
 all: build
 
@@ -61,6 +61,12 @@ uninstall:
 # A Debian package of the game in $(BUILD), for `apt-get install ./holdem_*.deb`.
 package: build
 	cd $(BUILD) && cpack -G DEB
+
+# Launch to the first painted table, and memory at the table: medians of
+# several starts under a virtual display.
+bench-window: configure
+	cmake --build $(BUILD) --target holdem -j $(JOBS)
+	tools/window_bench.sh $(BUILD)/bin/holdem
 
 # Redraw the committed pictures and sounds; a normal build never does. The sound
 # script installs sox and espeak-ng itself: they are tools of the generator only.

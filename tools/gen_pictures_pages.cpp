@@ -29,8 +29,7 @@ the player's name, chips and two cards. You see your own cards; the others are
 turned up only at the showdown.</p>
 <p>The white disc marks the dealer. The white arrow points at the player whose turn
 it is, and at the end of a hand it marks the winners. The shared cards are dealt
-face up in the middle: the flop (three cards), the turn and the river. Every bet
-and move is written beside the player's cards.</p>
+face up in the middle: the flop (three cards), the turn and the river.</p>
 <p>Click the pot to see how much each player has put into it. After a hand it shows
 that hand until the next deal.</p>
 <p class="head">Your turn</p>
@@ -43,7 +42,8 @@ that hand until the next deal.</p>
 raise your own bet.</li>
 <li><b>Fold</b>: give up the hand. It is played out without you.</li>
 </ul>
-<p>The underlined letters work with the Alt key: Alt+H, Alt+C, Alt+B, Alt+F.</p>
+<p>Underlined letters work with Alt: Alt+H, Alt+C, Alt+B, Alt+F; between hands
+Alt+D, Alt+S, Alt+V.</p>
 <p class="head">The bet window</p>
 <p>Type the amount in whole dollars, in steps of $100. When there is a bet to call,
 the amount you type is the raise on top of it: the call is added for you, and the
@@ -75,6 +75,8 @@ field as the last hand left it.</li>
 <li><b>Sound</b> on or off; the end-of-game sounds always play. <b>Speed</b>: Fast,
 Medium or Slow, at once. <b>Tip of the Day</b>: a tip at start.</li>
 <li><b>Help</b> (F1): these pages; <b>Hold'em Rules</b>; <b>About</b>.</li>
+<li>When a button on the table shows a menu's underlined letter, Alt and the letter
+press the button; F10 or a click opens the menus.</li>
 </ul>
 <p class="head">Standings</p>
 <p>Players still in come first, most chips first, then those who are out, best

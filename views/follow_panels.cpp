@@ -27,12 +27,12 @@ const kit::Twips kFinishHandButton{6600, 5520, 975, 375};
 }  // namespace
 
 FollowPanels::FollowPanels(frmMain& window) : QObject(&window), window_(window) {
-    cmdFinishHand = new QPushButton(QStringLiteral("Fi&nish Hand"), window.centralWidget());
+    cmdFinishHand = new QPushButton(QStringLiteral("Fi&nish Hand"), window.scene()->Stage());
     cmdFinishHand->setObjectName(QStringLiteral("cmdFinishHand"));
     cmdFinishHand->setFont(kit::Sans(8.25));
     cmdFinishHand->setAutoDefault(false);
     cmdFinishHand->setToolTip(QStringLiteral("Play the rest of this hand at once (Alt+N)"));
-    kit::Place(cmdFinishHand, kFinishHandButton);
+    window.scene()->Place(cmdFinishHand, kFinishHandButton);
     cmdFinishHand->hide();
     connect(cmdFinishHand, &QPushButton::clicked, this, [this] { cmdFinishHand_Click(); });
     BuildDocks();
@@ -126,10 +126,10 @@ void FollowPanels::ShowDocks() {
     dockHandLog->setVisible(stats_.showHandLog);
     dockTourney->setVisible(stats_.showTourney && atTourney);
     if (!changed) return;
-    window_.setMinimumSize(0, 0);
-    window_.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    window_.adjustSize();
-    window_.setFixedSize(window_.sizeHint());
+    // A shown dock widens the window rather than shrink the table; a
+    // maximized window keeps its size and the table scales to what is left.
+    if (!(window_.windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+        window_.resize(window_.size().expandedTo(window_.sizeHint()));
 }
 
 void FollowPanels::TakeEvents() {
@@ -150,12 +150,15 @@ void FollowPanels::AfterRedraw() {
     const Game& g = window_.game;
     if (!g.view.log.empty()) TakeEvents();
     ShowDocks();
-    cmdFinishHand->setVisible(CanFinishHand(g));
-    cmdFinishHand->raise();
     mnuPlayOut->setEnabled(CanPlayOutField(g));
     mnuSaveLog->setEnabled(!handLog->Empty());
     if (g.TournamentSize > kSeats && dockTourney->isVisible())
         tourney->Show(ComputeTourneyFigures(g), joined_);
+}
+
+void FollowPanels::ShowFinishHand() {
+    cmdFinishHand->setVisible(CanFinishHand(window_.game));
+    cmdFinishHand->raise();
 }
 
 void FollowPanels::cmdFinishHand_Click() {

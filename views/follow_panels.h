@@ -30,6 +30,8 @@ public:
     void Load(const std::string& userDataFolder);
     // Called after every redraw of the window.
     void AfterRedraw();
+    // Finish Hand shows only while the user has no decision left in the hand.
+    void ShowFinishHand();
 
     HandLogPanel* handLog = nullptr;
     TourneyPanel* tourney = nullptr;

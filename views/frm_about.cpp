@@ -59,6 +59,7 @@ frmAbout::frmAbout(const std::string& appFolder, QWidget* parent) : QDialog(pare
 
     lblOK = MakeClickLabel(this, "[CLOSE]", TwipsRect(4920, 3120, 615, 240), Sans(8), kText);
     connect(lblOK, &ClickLabel::clicked, this, &QDialog::hide);
+    kit::OnKey(this, Qt::Key_Return, [this] { hide(); });
 }
 
 }  // namespace holdem

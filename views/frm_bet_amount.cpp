@@ -56,14 +56,16 @@ frmBetAmount::frmBetAmount(const BetAmountRequest& request, Platform& messages, 
     txtBetAmount->installEventFilter(this);
 
     auto button = [this](const QString& caption, const Twips& place) {
+        // Enter presses the button that has the keyboard, OK elsewhere.
         auto* b = new QPushButton(caption, this);
-        b->setAutoDefault(false);
+        b->setAutoDefault(true);
         Place(b, place);
         return b;
     };
     cmdBetMax = button(QStringLiteral("&Bet Max"), {2760, 1440, 855, 375});
     cmdOK = button(QStringLiteral("&OK"), {1320, 2040, 855, 375});
     cmdCancel = button(QStringLiteral("&Cancel"), {2400, 2040, 855, 375});
+    cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
     connect(cmdBetMax, &QPushButton::clicked, this, [this] { cmdBetMax_Click(); });
@@ -78,11 +80,12 @@ bool frmBetAmount::eventFilter(QObject* watched, QEvent* event) {
         Apply(BetAmountEnter(request_, txtBetAmount->text().toStdString()));
         return true;
     }
-    if (key->key() == Qt::Key_Backspace) return false;
-    // Keys that type something get through only as digits; paste and the
-    // like are typed keys too and are dropped.
+    // Keys that type a character get through only as digits; editing keys
+    // and shortcuts (select all, copy, paste, undo, Escape) work as in any
+    // text box, and the validator holds pasted text to digits.
     QString text = key->text();
-    if (text.isEmpty()) return false;
+    if (text.isEmpty() || !text[0].isPrint() || (key->modifiers() & (Qt::ControlModifier | Qt::MetaModifier)))
+        return false;
     if (text.size() != 1 || text[0].unicode() > 0x7f) return true;
     return !BetAmountKeyAllowed(static_cast<char>(text[0].unicode()));
 }

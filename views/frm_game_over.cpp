@@ -26,6 +26,7 @@ frmGameOver::frmGameOver(int16_t userFinishPlace, QWidget* parent)
     lblClose = kit::MakeClickLabel(this, QStringLiteral("[CLOSE]"), kit::TwipsRect(3960, 1680, 615, 195),
                                    kit::Sans(8.25), kLightGrey, Qt::AlignRight);
     connect(lblClose, &kit::ClickLabel::clicked, this, &QDialog::accept);
+    kit::OnKey(this, Qt::Key_Return, [this] { accept(); });
 }
 
 }  // namespace holdem

@@ -18,6 +18,7 @@
 
 #include "views/follow_panels.h"
 #include "views/qt_platform.h"
+#include "views/table_scene.h"
 
 namespace holdem {
 
@@ -26,7 +27,7 @@ using kit::Twips;
 namespace {
 
 // The layout, in twips of the client area (15 to a pixel).
-constexpr QSize kClientSize(11325 / kit::kTwipsPerPixel, 7620 / kit::kTwipsPerPixel);  // 755 x 508
+constexpr QSize kClientSize = TableScene::kBaseSize;  // 755 x 508
 constexpr QSize kTablePicture(757, 527);
 constexpr QSize kWinnerPicture(758, 517);
 constexpr QSize kWinnerPanel(755, 510);
@@ -41,7 +42,9 @@ struct SeatLayout {
     Qt::Alignment betAlign;
 };
 
-// Seat 1 bottom middle, then clockwise.
+// Seat 1 bottom middle, then clockwise. The dealer disc stands beside the
+// cards, clear of a long name, and "Paid" under the chips (over the name at
+// the top seats), so that neither hides a card or another word.
 const SeatLayout kSeatLayout[9] = {
     {},
     {{4920, 6960, 2175, 255},
@@ -51,8 +54,8 @@ const SeatLayout kSeatLayout[9] = {
      {5520, 5520, 1065, 1440},
      {5580, 5280, 765, 240},
      {4680, 5640, 510, 240},
-     {4680, 6720, 510, 510},
-     {5715, 6000, 615, 195},
+     {4680, 6000, 510, 510},
+     {5715, 7425, 615, 195},
      Qt::AlignHCenter},
     {{1080, 6720, 2175, 255},
      {1320, 6990, 1095, 255},
@@ -61,8 +64,8 @@ const SeatLayout kSeatLayout[9] = {
      {1680, 5280, 1065, 1440},
      {1740, 5040, 765, 240},
      {2880, 5640, 510, 240},
-     {840, 6600, 510, 510},
-     {1875, 5760, 615, 195},
+     {840, 5400, 510, 510},
+     {1875, 7200, 615, 195},
      Qt::AlignHCenter},
     {{-120, 4200, 2175, 255},
      {120, 4470, 1095, 255},
@@ -71,8 +74,8 @@ const SeatLayout kSeatLayout[9] = {
      {480, 2760, 1095, 1455},
      {1680, 2880, 750, 240},
      {1680, 3600, 510, 240},
-     {120, 4680, 510, 510},
-     {675, 3240, 615, 195},
+     {120, 4920, 510, 510},
+     {675, 4680, 615, 195},
      Qt::AlignLeft},
     {{960, 360, 2175, 255},
      {1200, 630, 1095, 255},
@@ -81,8 +84,8 @@ const SeatLayout kSeatLayout[9] = {
      {1680, 840, 1095, 1455},
      {2400, 2340, 750, 240},
      {2880, 1560, 510, 240},
-     {840, 600, 510, 510},
-     {1875, 1320, 615, 195},
+     {840, 900, 510, 510},
+     {1875, 120, 615, 195},
      Qt::AlignLeft},
     {{5160, 360, 1455, 255},
      {5040, 630, 1095, 255},
@@ -91,8 +94,8 @@ const SeatLayout kSeatLayout[9] = {
      {5400, 840, 1095, 1455},
      {5475, 2340, 750, 240},
      {4560, 1560, 510, 240},
-     {4560, 480, 510, 510},
-     {5595, 1320, 615, 195},
+     {4560, 900, 510, 510},
+     {5595, 120, 615, 195},
      Qt::AlignHCenter},
     {{8280, 360, 2175, 255},
      {8520, 630, 1095, 255},
@@ -101,8 +104,8 @@ const SeatLayout kSeatLayout[9] = {
      {9000, 840, 1065, 1440},
      {8655, 2340, 750, 240},
      {8160, 1440, 510, 240},
-     {8160, 600, 510, 510},
-     {9195, 1320, 615, 195},
+     {8160, 900, 510, 510},
+     {9195, 120, 615, 195},
      Qt::AlignRight},
     {{9480, 4200, 1575, 255},
      {9240, 4470, 1095, 255},
@@ -112,7 +115,7 @@ const SeatLayout kSeatLayout[9] = {
      {9015, 2880, 750, 240},
      {9240, 3360, 510, 240},
      {10680, 2160, 510, 510},
-     {10080, 3240, 615, 195},
+     {10080, 4680, 615, 195},
      Qt::AlignRight},
     {{8520, 6720, 2175, 255},
      {8640, 6990, 1095, 255},
@@ -121,8 +124,8 @@ const SeatLayout kSeatLayout[9] = {
      {9120, 5280, 1065, 1440},
      {9240, 5040, 750, 240},
      {8280, 5760, 510, 240},
-     {10320, 6480, 510, 510},
-     {9315, 5760, 615, 195},
+     {10320, 5700, 510, 510},
+     {9315, 7200, 615, 195},
      Qt::AlignHCenter},
 };
 
@@ -147,7 +150,9 @@ const Twips kBoard[5] = {{3000, 3120, 1065, 1440},
                          {6240, 3120, 1065, 1440},
                          {7320, 3120, 1065, 1440}};
 const Twips kPotLabel{4680, 4710, 1095, 375};
-const Twips kPot{5760, 4710, 450, 360};
+// Starts where "Pot: $" ends rather than a pixel inside it: scaled up, the
+// dollar sign would touch the amount.
+const Twips kPot{5775, 4710, 450, 360};
 const Twips kBlind{2880, 3840, 1995, 240};
 const Twips kGoodLuck{2160, 3240, 3375, 495};
 const Twips kYouWon{4485, 840, 2685, 555};
@@ -254,7 +259,7 @@ frmMain::frmMain(const std::string& appFolder, Platform* platform, QWidget* pare
     BuildTimers();
     follow = new FollowPanels(*this);
     RedrawWidgets();
-    setFixedSize(sizeHint());
+    resize(sizeHint());
 }
 
 frmMain::~frmMain() {
@@ -265,14 +270,17 @@ frmMain::~frmMain() {
 // ---- Building ----------------------------------------------------------------
 
 void frmMain::BuildTable() {
-    auto* client = new QWidget(this);
-    client->setFixedSize(kClientSize);
-    kit::SetBackground(client, kBehindTable);
-    setCentralWidget(client);
+    scene_ = new TableScene(kBehindTable, this);
+    setCentralWidget(scene_);
+    QWidget* client = scene_->Stage();
+    scene_->onRescaled = [this] {
+        picTableMoney->setNaturalSize(scene_->Map(kWinnerPicture));
+        RedrawWidgets();
+    };
 
+    // Larger than the client area: the stage clips it as the window did.
     table = new kit::PictureBox(client);
-    table->setGeometry(QRect(QPoint(0, 0), kTablePicture));
-    table->setNaturalSize(kTablePicture);
+    scene_->Place(table, QRect(QPoint(0, 0), kTablePicture));
     table->setPicture(PictureOr(game.AppFolder, QStringLiteral("table.png"), DrawnTable(kTablePicture)));
 
     // Widgets made later lie on top: first cards, then second cards over them,
@@ -283,10 +291,10 @@ void frmMain::BuildTable() {
         icard[k]->setPicture(cards_->Get(0));
     }
     for (int s = 1; s <= kSeats; ++s) {
-        kit::Place(icard[s], kSeatLayout[s].card1);
-        kit::Place(icard[s + 8], kSeatLayout[s].card2);
+        scene_->Place(icard[s], kSeatLayout[s].card1);
+        scene_->Place(icard[s + 8], kSeatLayout[s].card2);
     }
-    for (int k = 0; k < 5; ++k) kit::Place(icard[17 + k], kBoard[k]);
+    for (int k = 0; k < 5; ++k) scene_->Place(icard[17 + k], kBoard[k]);
     // The second card of each seat is raised over its first.
     for (int s = 1; s <= kSeats; ++s) icard[s + 8]->raise();
     for (int k = 17; k <= 21; ++k) icard[k]->raise();
@@ -306,41 +314,42 @@ void frmMain::BuildSeat(int s, QWidget* client) {
 
     iArrow[s] = new kit::PictureBox(client);
     iArrow[s]->setPicture(arrow);
-    kit::Place(iArrow[s], at.arrow);
+    scene_->Place(iArrow[s], at.arrow);
     iButton[s] = new kit::PictureBox(client);
+    iButton[s]->setObjectName(QStringLiteral("iButton%1").arg(s));
     iButton[s]->setPicture(dealer);
-    kit::Place(iButton[s], at.button);
+    scene_->Place(iButton[s], at.button);
 
     lblName[s] = new QLabel(client);
     kit::StyleLabel(lblName[s], NameFont(), s == 1 ? kUserNameColour : QColor(Qt::white),
                     Qt::AlignHCenter | Qt::AlignTop);
-    lblName[s]->setGeometry(NameBox(at.name));
+    scene_->Place(lblName[s], NameBox(at.name));
 
     lblBankDollarSign[s] = new QLabel(client);
     kit::StyleLabel(lblBankDollarSign[s], kit::Sans(8.25, true), Qt::white, Qt::AlignRight | Qt::AlignTop);
-    kit::Place(lblBankDollarSign[s], at.dollarSign);
+    scene_->Place(lblBankDollarSign[s], at.dollarSign);
 
     lblBank[s] = new QLabel(client);
     kit::StyleLabel(lblBank[s], kit::Sans(8.25, true), Qt::white, Qt::AlignLeft | Qt::AlignTop);
-    autoSized_.push_back({lblBank[s], kit::ToPixels(at.bank)});
+    AutoSize(lblBank[s], kit::ToPixels(at.bank));
 
     lblBet[s] = new QLabel(client);
     kit::StyleLabel(lblBet[s], kit::Sans(9.75, true), kBetColour, at.betAlign | Qt::AlignTop);
-    autoSized_.push_back({lblBet[s], kit::ToPixels(at.bet)});
+    AutoSize(lblBet[s], kit::ToPixels(at.bet));
 
     lblPaid[s] = new QLabel(client);
     kit::StyleLabel(lblPaid[s], kit::Sans(8.25, true), Qt::white, Qt::AlignCenter);
     kit::SetBackground(lblPaid[s], Qt::black);
-    autoSized_.push_back({lblPaid[s], kit::ToPixels(at.paid)});
+    AutoSize(lblPaid[s], kit::ToPixels(at.paid));
 }
 
 void frmMain::BuildMiddle(QWidget* client) {
     lblPotLabel = new kit::ClickLabel(client);
     kit::StyleLabel(lblPotLabel, kit::Sans(13.5), Qt::white, Qt::AlignRight | Qt::AlignTop);
-    kit::Place(lblPotLabel, kPotLabel);
+    scene_->Place(lblPotLabel, kPotLabel);
     lblPot = new kit::ClickLabel(client);
     kit::StyleLabel(lblPot, kit::Sans(13.5), Qt::white, Qt::AlignLeft | Qt::AlignTop);
-    autoSized_.push_back({lblPot, kit::ToPixels(kPot)});
+    AutoSize(lblPot, kit::ToPixels(kPot));
     connect(lblPot, &kit::ClickLabel::clicked, this, [this] { Call([this] { game.lblPot_Click(); }); });
     connect(lblPotLabel, &kit::ClickLabel::clicked, this,
             [this] { Call([this] { game.lblPotLabel_Click(); }); });
@@ -348,14 +357,14 @@ void frmMain::BuildMiddle(QWidget* client) {
     lblBlind = new QLabel(client);
     kit::StyleLabel(lblBlind, kit::Sans(9.75, true), Qt::white, Qt::AlignLeft | Qt::AlignTop);
     // The large blinds of a long tournament run past the box.
-    autoSized_.push_back({lblBlind, kit::ToPixels(kBlind)});
+    AutoSize(lblBlind, kit::ToPixels(kBlind));
 
     lblGoodLuck = new QLabel(client);
     kit::StyleLabel(lblGoodLuck, kit::Face(kit::kDisplayFace, 24), Qt::white, Qt::AlignCenter);
     // The display face is taller than its box: grow it about the box's middle.
     QRect box = kit::ToPixels(kGoodLuck);
     int height = std::max(box.height(), lblGoodLuck->fontMetrics().height() + 2);
-    lblGoodLuck->setGeometry(box.left(), box.center().y() - height / 2, box.width(), height);
+    scene_->Place(lblGoodLuck, QRect(box.left(), box.center().y() - height / 2, box.width(), height));
 }
 
 void frmMain::BuildButtons(QWidget* client) {
@@ -363,8 +372,11 @@ void frmMain::BuildButtons(QWidget* client) {
         auto* button = new QPushButton(client);
         button->setFont(kit::Sans(8.25));
         button->setAutoDefault(false);
-        kit::Place(button, place);
-        connect(button, &QPushButton::clicked, this, [this, routine] { Call(routine); });
+        scene_->Place(button, place);
+        connect(button, &QPushButton::clicked, this, [this, routine] {
+            Call(routine);
+            FocusTable();
+        });
         return button;
     };
     for (int i = 1; i <= 4; ++i) cmdPlay[i] = make(kPlayButtons[i], [this, i] { game.cmdPlay_Click(i); });
@@ -375,13 +387,13 @@ void frmMain::BuildButtons(QWidget* client) {
 
 void frmMain::BuildWinnerPanel(QWidget* client) {
     picTableMoney = new kit::PictureBox(client);
+    scene_->Place(picTableMoney, QRect(QPoint(0, 0), kWinnerPanel));
     picTableMoney->setNaturalSize(kWinnerPicture);
-    picTableMoney->setPicture(
-        PictureOr(game.AppFolder, QStringLiteral("table_winner.png"), DrawnTable(kWinnerPicture)));
+    // Its picture is loaded when a game is first won.
     picTableMoney->setFallback(kBehindTable);
     lblYouWon = new QLabel(QStringLiteral("YOU WON!"), picTableMoney);
     kit::StyleLabel(lblYouWon, kit::Sans(24, true), Qt::white, Qt::AlignCenter);
-    kit::Place(lblYouWon, kYouWon);
+    scene_->Place(lblYouWon, kYouWon);
     picTableMoney->raise();
     picTableMoney->hide();
 }
@@ -397,6 +409,7 @@ void frmMain::BuildMenus() {
     };
 
     mnuFile = bar->addMenu(QStringLiteral("&File"));
+    menuCaptions_.push_back({mnuFile, mnuFile->title()});
     mnuNew = entry(mnuFile, "&New...", [this] { game.mnuNew_Click(); });
     mnuNew->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
     mnuOpen = entry(mnuFile, "&Open", [this] { game.mnuOpen_Click(); });
@@ -410,10 +423,12 @@ void frmMain::BuildMenus() {
     connect(mnuExit, &QAction::triggered, this, [this] { mnuExit_Click(); });
 
     mnuTourney = bar->addMenu(QStringLiteral("&Tourney"));
+    menuCaptions_.push_back({mnuTourney, mnuTourney->title()});
     mnuStandings = entry(mnuTourney, "&Standings", [this] { game.mnuStandings_Click(); });
     mnuFloor = entry(mnuTourney, "&View Floor", [this] { game.mnuFloor_Click(); });
 
     mnuSettings = bar->addMenu(QStringLiteral("&Settings"));
+    menuCaptions_.push_back({mnuSettings, mnuSettings->title()});
     mnuSound = entry(
         mnuSettings, "&Sound", [this] { game.mnuSound_Click(); }, true);
     mnuSettings->addSeparator();
@@ -428,6 +443,7 @@ void frmMain::BuildMenus() {
         mnuSettings, "&Tip of the Day", [this] { game.mnuTips_Click(); }, true);
 
     mnuHelp = bar->addMenu(QStringLiteral("&Help"));
+    menuCaptions_.push_back({mnuHelp, mnuHelp->title()});
     mnuHelpIndex = entry(mnuHelp, "Help", [this] { game.platform->ShowInfo(InfoForm::Help); });
     mnuHelpIndex->setShortcut(QKeySequence(Qt::Key_F1));
     mnuHelp->addSeparator();
@@ -446,27 +462,60 @@ void frmMain::BuildTimers() {
 
 // ---- Drawing -----------------------------------------------------------------
 
+void frmMain::AutoSize(QLabel* label, const QRect& layoutBox) {
+    scene_->ScaleFont(label);
+    autoSized_.push_back({label, layoutBox});
+}
+
 void frmMain::SizeToText(const AutoSized& item) {
     QLabel* label = item.label;
+    QRect box = scene_->Map(item.box);
     QFontMetrics metrics(label->font());
     bool boxed = label->autoFillBackground();
     int pad = boxed ? 6 : 2;
     int width = label->text().isEmpty() ? 0 : metrics.horizontalAdvance(label->text()) + pad;
-    int height = std::max(item.box.height(), metrics.height());
-    int left = item.box.left();
+    int height = std::max(box.height(), metrics.height());
+    int left = box.left();
     // Grow about the anchor the alignment names, so no text is clipped.
     if (label->alignment() & Qt::AlignHCenter)
-        left = item.box.center().x() + 1 - width / 2;
+        left = box.center().x() + 1 - width / 2;
     else if (label->alignment() & Qt::AlignRight)
-        left = item.box.right() + 1 - width;
-    label->setGeometry(left, item.box.top(), width, height);
+        left = box.right() + 1 - width;
+    label->setGeometry(left, box.top(), width, height);
+}
+
+void frmMain::FocusTable() { scene_->setFocus(Qt::OtherFocusReason); }
+
+// A menu gives up its access letter while a visible button of the table
+// claims it, so that Alt+letter presses the button; F10 and a click still
+// open the menu.
+void frmMain::UpdateMenuKeys() {
+    QString claimed;
+    for (QPushButton* b : TableButtons())
+        if (b->isVisibleTo(scene_)) claimed += AccessKey(b->text());
+    for (auto [menu, caption] : menuCaptions_) {
+        QString title = claimed.contains(AccessKey(caption)) ? QString(caption).remove(QChar('&')) : caption;
+        if (menu->title() != title) menu->setTitle(title);
+    }
+}
+
+std::vector<QPushButton*> frmMain::TableButtons() const {
+    std::vector<QPushButton*> buttons{cmdPlay[1], cmdPlay[2],   cmdPlay[3], cmdPlay[4],
+                                      cmdDeal,    cmdStandings, cmdFloor};
+    if (follow) buttons.push_back(follow->cmdFinishHand);
+    return buttons;
+}
+
+QChar frmMain::AccessKey(const QString& caption) {
+    int at = caption.indexOf(QChar('&'));
+    return at >= 0 && at + 1 < caption.size() ? caption[at + 1].toLower() : QChar();
 }
 
 void frmMain::RedrawWidgets() {
     const View& v = game.view;
     for (int s = 1; s <= kSeats; ++s) {
         DrawLabel(lblName[s], v.lblName[s]);
-        kit::FitFontToWidth(lblName[s], NameFont());
+        kit::FitFontToWidth(lblName[s], scene_->Map(NameFont()));
         DrawLabel(lblBankDollarSign[s], v.lblBankDollarSign[s]);
         DrawLabel(lblBank[s], v.lblBank[s]);
         DrawLabel(lblBet[s], v.lblBet[s]);
@@ -487,7 +536,21 @@ void frmMain::RedrawWidgets() {
     DrawButton(cmdDeal, v.cmdDeal);
     DrawButton(cmdStandings, v.cmdStandings);
     DrawButton(cmdFloor, v.cmdFloor);
+    if (v.picTableMoney.visible && picTableMoney->picture().isNull())
+        picTableMoney->setPicture(
+            PictureOr(game.AppFolder, QStringLiteral("table_winner.png"), DrawnTable(kWinnerPicture)));
     picTableMoney->setVisible(v.picTableMoney.visible);
+    if (follow) follow->ShowFinishHand();
+    UpdateMenuKeys();
+    // When the table's buttons change over, none of them keeps the keyboard
+    // into the new moment: Space and Enter act only on a button the user
+    // has moved to since.
+    int shown = 0;
+    for (QPushButton* b : TableButtons()) shown = shown * 2 + (b->isVisibleTo(scene_) ? 1 : 0);
+    if (shown != buttonsShown_) {
+        buttonsShown_ = shown;
+        FocusTable();
+    }
 
     DrawAction(mnuNew, v.mnuNew);
     DrawAction(mnuOpen, v.mnuOpen);
@@ -577,7 +640,6 @@ void frmMain::Start() {
     if (!userData.empty() && userData.back() != '/') userData += '/';
     SetUserDataFolder(game, userData, 0);
     follow->Load(userData);
-    picTableMoney->setGeometry(QRect(QPoint(0, 0), kWinnerPanel));
     Call([this] {
         game.ReadSettings();
         game.SetGameSpeed();

@@ -8,6 +8,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "engine/game_state.h"
 #include "views/view_kit.h"
@@ -21,6 +23,7 @@ namespace holdem {
 
 class QtPlatform;
 class FollowPanels;
+class TableScene;
 
 class frmMain : public QMainWindow {
     Q_OBJECT
@@ -73,6 +76,9 @@ public:
     kit::PictureBox* picTableMoney = nullptr;
     QLabel* lblYouWon = nullptr;
     kit::PictureBox* table = nullptr;
+    // The central widget: the table scaled to the room the window gives it.
+    // A widget added to the table is placed with scene()->Place(widget, twips).
+    TableScene* scene() const { return scene_; }
 
     QMenu *mnuFile = nullptr, *mnuTourney = nullptr, *mnuSettings = nullptr, *mnuSpeed = nullptr,
           *mnuHelp = nullptr;
@@ -98,7 +104,7 @@ protected:
 private:
     struct AutoSized {
         QLabel* label;
-        QRect box;  // the place in the layout; the label grows around it
+        QRect box;  // the place in the layout, unscaled; the label grows around it
     };
 
     void BuildTable();
@@ -114,10 +120,20 @@ private:
     void SyncTimers();
     bool ExitQuestionNeeded(bool closeBox) const;
     bool Exit(bool closeBox);
+    void AutoSize(QLabel* label, const QRect& layoutBox);
     void SizeToText(const AutoSized& item);
+    // Every button on the table, those beside the game's own included.
+    std::vector<QPushButton*> TableButtons() const;
+    void UpdateMenuKeys();
+    static QChar AccessKey(const QString& caption);
+    // Puts the keyboard on the felt, where no key presses a button.
+    void FocusTable();
     void ShowInfo(InfoForm form);
 
+    TableScene* scene_ = nullptr;
     std::vector<AutoSized> autoSized_;
+    std::vector<std::pair<QMenu*, QString>> menuCaptions_;
+    int buttonsShown_ = -1;
     std::unique_ptr<kit::CardPictures> cards_;
     bool busy_ = false;
     bool quitting_ = false;

@@ -1,7 +1,9 @@
 #include "views/frm_new_game.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QPainter>
 
 #include "files/new_game.h"
 
@@ -57,6 +59,22 @@ frmNewGame::frmNewGame(int16_t gameSpeed, QWidget* parent)
         ok_ = false;
         reject();
     });
+    // Enter is [OK] and Escape [CANCEL]; the keyboard starts on the first list.
+    kit::OnKey(this, Qt::Key_Return, [this] {
+        ok_ = true;
+        accept();
+    });
+    cbGameType->setFocus();
+    connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
+}
+
+void frmNewGame::paintEvent(QPaintEvent* event) {
+    QDialog::paintEvent(event);
+    auto* list = qobject_cast<QComboBox*>(focusWidget());
+    if (!list || !isActiveWindow()) return;
+    QPainter painter(this);
+    painter.setPen(QPen(Qt::yellow, 2));
+    painter.drawRect(list->geometry().adjusted(-2, -2, 1, 1));
 }
 
 void frmNewGame::cbGameType_Click() { cbPlayers->setEnabled(cbGameType->currentText() == kTournament); }

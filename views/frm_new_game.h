@@ -22,6 +22,10 @@ public:
     QLabel *lblGameType, *lblPlayers, *lblSpeed;
     kit::ClickLabel *lblOK, *lblCancel;
 
+protected:
+    // Rings the list that has the keyboard: the style's own mark is lost on navy.
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void cbGameType_Click();
     bool ok_ = false;

@@ -46,6 +46,7 @@ frmPotBreakdown::frmPotBreakdown(const PotBreakdown& breakdown, QWidget* parent)
     lblClose = kit::MakeClickLabel(this, QStringLiteral("[Close]"), kit::TwipsRect(3030, 3000, 645, 240),
                                    kit::Sans(8.25), Qt::white, Qt::AlignRight);
     connect(lblClose, &kit::ClickLabel::clicked, this, &QDialog::accept);
+    kit::OnKey(this, Qt::Key_Return, [this] { accept(); });
 }
 
 void frmPotBreakdown::paintEvent(QPaintEvent* event) {

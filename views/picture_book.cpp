@@ -37,6 +37,8 @@ PictureBook::PictureBook(const std::string& appFolder, const PictureBookLayout& 
     cmdPrevious = button("&Previous", layout.previousLeft);
     cmdNext = button("&Next", layout.nextLeft);
     cmdClose = button("&Close", layout.closeLeft);
+    // Enter closes the book; Space turns the page the keyboard is on.
+    cmdClose->setDefault(true);
 
     connect(cmdPrevious, &QPushButton::clicked, this, [this] { ShowPage(1); });
     connect(cmdNext, &QPushButton::clicked, this, [this] { ShowPage(2); });

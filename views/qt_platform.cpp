@@ -21,6 +21,7 @@
 #include "views/frm_rules.h"
 #include "views/frm_splash.h"
 #include "views/frm_tip.h"
+#include "views/view_kit.h"
 
 namespace holdem {
 
@@ -68,6 +69,13 @@ QtPlatform::~QtPlatform() = default;
 QWidget* QtPlatform::Owner() {
     window_->RedrawWidgets();
     return window_;
+}
+
+// Every form comes up over the table, wherever the window stands.
+int QtPlatform::Run(QDialog& form) {
+    form.ensurePolished();
+    kit::CentreOver(&form, window_);
+    return form.exec();
 }
 
 MsgAnswer QtPlatform::MessageBox(const std::string& text, const std::string& title, MsgIcon icon,
@@ -143,41 +151,41 @@ void QtPlatform::Pause() {
 
 int32_t QtPlatform::ShowBetAmount(const BetAmountRequest& request) {
     frmBetAmount form(request, *this, Owner());
-    form.exec();
+    Run(form);
     return form.BetAmount;
 }
 
 NewGameChoices QtPlatform::ShowNewGame(int16_t gameSpeed) {
     frmNewGame form(gameSpeed, Owner());
-    form.exec();
+    Run(form);
     return form.Choices();
 }
 
 std::string QtPlatform::ShowPlayerName() {
     if (!playerName_) playerName_ = new frmPlayerName(window_);
     Owner();
-    playerName_->exec();
+    Run(*playerName_);
     return playerName_->Entry();
 }
 
 void QtPlatform::ShowGameOver(int16_t userFinishPlace) {
     frmGameOver form(userFinishPlace, Owner());
-    form.exec();
+    Run(form);
 }
 
 void QtPlatform::ShowPotBreakdown(const PotBreakdown& breakdown) {
     frmPotBreakdown form(breakdown, Owner());
-    form.exec();
+    Run(form);
 }
 
 void QtPlatform::ShowStandings(const std::string& standingsPath) {
     frmRankings form(standingsPath, Owner());
-    form.exec();
+    Run(form);
 }
 
 void QtPlatform::ShowFloor(const std::string& standingsPath) {
     frmCasinoFloor form(standingsPath, Owner());
-    form.exec();
+    Run(form);
 }
 
 void QtPlatform::ShowInfo(InfoForm form) {
@@ -185,12 +193,12 @@ void QtPlatform::ShowInfo(InfoForm form) {
     switch (form) {
         case InfoForm::Splash: {
             frmSplash splash(folder, Owner());
-            splash.exec();
+            Run(splash);
             break;
         }
         case InfoForm::Tip: {
             frmTip tip(window_->game, Owner());
-            tip.exec();
+            Run(tip);
             // The tip's check box moves the menu's check mark.
             window_->RedrawWidgets();
             break;
@@ -198,16 +206,16 @@ void QtPlatform::ShowInfo(InfoForm form) {
         case InfoForm::Help:
             if (!help_) help_ = new frmHelp(folder, window_);
             Owner();
-            help_->exec();
+            Run(*help_);
             break;
         case InfoForm::Rules:
             if (!rules_) rules_ = new frmRules(folder, window_);
             Owner();
-            rules_->exec();
+            Run(*rules_);
             break;
         case InfoForm::About: {
             frmAbout about(folder, Owner());
-            about.exec();
+            Run(about);
             break;
         }
     }

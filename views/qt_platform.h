@@ -6,6 +6,7 @@
 
 #include "engine/platform.h"
 
+class QDialog;
 class QWidget;
 
 namespace holdem {
@@ -40,6 +41,7 @@ public:
 private:
     // The table behind a modal form shows the state the game has reached.
     QWidget* Owner();
+    int Run(QDialog& form);
 
     frmMain* window_;
     std::unique_ptr<SoundBank> sound_;

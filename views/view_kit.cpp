@@ -6,6 +6,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
+#include <QShortcut>
+#include <algorithm>
 #include <cmath>
 
 #include "engine/common.h"
@@ -39,6 +42,27 @@ bool LeftClickInside(const QWidget* widget, const QMouseEvent* event) {
            widget->rect().contains(event->position().toPoint());
 }
 }  // namespace
+
+void OnKey(QWidget* dialog, Qt::Key key, const std::function<void()>& action) {
+    auto* shortcut = new QShortcut(QKeySequence(key), dialog);
+    QObject::connect(shortcut, &QShortcut::activated, dialog, action);
+    if (key == Qt::Key_Return) OnKey(dialog, Qt::Key_Enter, action);
+}
+
+void SetBlankTitle(QWidget* form) { form->setWindowTitle(QStringLiteral(" ")); }
+
+void CentreOver(QWidget* dialog, const QWidget* window) {
+    if (!window || !window->isVisible()) return;
+    QRect frame = window->frameGeometry();
+    QRect box(QPoint(0, 0), dialog->frameGeometry().size().expandedTo(dialog->size()));
+    box.moveCenter(frame.center());
+    if (const QScreen* screen = window->screen()) {
+        QRect room = screen->availableGeometry();
+        box.moveLeft(std::clamp(box.left(), room.left(), std::max(room.left(), room.right() - box.width())));
+        box.moveTop(std::clamp(box.top(), room.top(), std::max(room.top(), room.bottom() - box.height())));
+    }
+    dialog->move(box.topLeft());
+}
 
 QString Q(const std::string& s) { return QString::fromStdString(s); }
 std::string S(const QString& s) { return s.toStdString(); }
@@ -154,17 +178,16 @@ QPixmap DrawnCardBack() {
     return pixmap;
 }
 
-CardPictures::CardPictures(const std::string& appFolder) {
-    pictures_[0] = LoadPicture(appFolder, QStringLiteral("card_back.png"));
-    if (pictures_[0].isNull()) pictures_[0] = DrawnCardBack();
-    for (int n = 1; n <= kDeckSize; ++n) {
-        pictures_[n] = LoadPicture(appFolder, QStringLiteral("card_%1.png").arg(n, 2, 10, QChar('0')));
-        if (pictures_[n].isNull()) pictures_[n] = DrawnCardFace(n);
-    }
-}
-
 const QPixmap& CardPictures::Get(int picture) const {
-    return pictures_[picture >= 1 && picture <= kDeckSize ? picture : 0];
+    int n = picture >= 1 && picture <= kDeckSize ? picture : 0;
+    QPixmap& pixmap = pictures_[n];
+    if (pixmap.isNull()) {
+        QString name = n == 0 ? QStringLiteral("card_back.png")
+                              : QStringLiteral("card_%1.png").arg(n, 2, 10, QChar('0'));
+        pixmap = LoadPicture(appFolder_, name);
+        if (pixmap.isNull()) pixmap = n == 0 ? DrawnCardBack() : DrawnCardFace(n);
+    }
+    return pixmap;
 }
 
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {}

@@ -10,6 +10,7 @@
 #include <QRect>
 #include <QString>
 #include <QWidget>
+#include <functional>
 #include <string>
 
 namespace holdem::kit {
@@ -60,15 +61,17 @@ QPixmap LoadPicture(const std::string& appFolder, const QString& name);
 QPixmap LoadPicture(const std::string& appFolder, const QString& name, QSize size,
                     Qt::AspectRatioMode mode = Qt::IgnoreAspectRatio);
 
-// The store of card pictures: faces 1..52 and the back (0). A missing file is
-// replaced by a plainly drawn card so the game stays playable.
+// The store of card pictures: faces 1..52 and the back (0), each read when
+// first asked for. A missing file is replaced by a plainly drawn card so the
+// game stays playable.
 class CardPictures {
 public:
-    explicit CardPictures(const std::string& appFolder);
+    explicit CardPictures(const std::string& appFolder) : appFolder_(appFolder) {}
     const QPixmap& Get(int picture) const;
 
 private:
-    QPixmap pictures_[53];
+    std::string appFolder_;
+    mutable QPixmap pictures_[53];
 };
 // A face drawn with QPainter: rank and suit on white, for a missing picture.
 QPixmap DrawnCardFace(int card);
@@ -139,6 +142,16 @@ private:
     bool rounded_;
     QColor colour_{Qt::black};
 };
+
+// Runs action on key (and on the keypad's Enter too when key is Return)
+// while the dialog or a widget in it has the keyboard.
+void OnKey(QWidget* dialog, Qt::Key key, const std::function<void()>& action);
+// A form whose caption is to show no text: an empty one would show the
+// program's name instead.
+void SetBlankTitle(QWidget* form);
+// Puts a dialog over the middle of the window it belongs to, kept on the
+// window's screen.
+void CentreOver(QWidget* dialog, const QWidget* window);
 
 QString Q(const std::string& s);
 std::string S(const QString& s);

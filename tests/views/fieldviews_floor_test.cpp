@@ -168,7 +168,7 @@ private slots:
         frmCasinoFloor form(WriteStnd(dir_, field));
         form.show();
         QCOMPARE(form.size(), QSize(494, 459));
-        QVERIFY(form.windowTitle().isEmpty());
+        QVERIFY(form.windowTitle().trimmed().isEmpty());
         QCOMPARE(form.lblPlayers->text(), QString("Players Remaining: 79"));
         QCOMPARE(form.sTable[6]->geometry(), QRect(112, 72, 73, 41));  // top of the second column
         QCOMPARE(form.sSeat[1]->geometry(), QRect(48, 104, 8, 8));     // bottom middle of table 1

@@ -147,7 +147,7 @@ private slots:
         frmRankings form(WriteStnd(dir_, field));
         form.show();
         QCOMPARE(form.size(), QSize(355, 513));
-        QVERIFY(form.windowTitle().isEmpty());
+        QVERIFY(form.windowTitle().trimmed().isEmpty());
         QCOMPARE(form.lblBank[1]->text(), QString("12,345,678"));
         QVERIFY(form.lblBank[1]->alignment() & Qt::AlignRight);
         QCOMPARE(form.lblRank[2]->geometry(), QRect(16, 56, 28, 16));
