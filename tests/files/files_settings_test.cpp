@@ -23,19 +23,6 @@ const std::vector<int> kAsDrawn = {400, 1200, 450, 1200, 450, 1200, 450, 1200, 1
 
 using SettingsTest = FileTest;
 
-TEST_F(SettingsTest, SpeedEntriesSetAllNineTimersAndKeepTheRunningOne) {
-    const std::tuple<void (Game::*)(), int, std::vector<int>, const char*> speeds[] = {
-        {&Game::mnuFastSpeed_Click, 1, kFast, "F"},
-        {&Game::mnuSlowSpeed_Click, 3, kSlow, "S"},
-        {&Game::mnuMediumSpeed_Click, 2, kMedium, "M"}};
-    for (const auto& [click, speed, intervals, mark] : speeds) {
-        g.EnableTimer(TimerBetFlop);
-        (g.*click)();
-        EXPECT_EQ(std::make_tuple(Speed(g), int{g.GameSpeed}, g.RunningTimer()),
-                  std::make_tuple(std::make_pair(intervals, std::string(mark)), speed, TimerBetFlop));
-    }
-}
-
 TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
     const struct {
         const char* text;  // nullptr: no file
@@ -76,16 +63,23 @@ TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
     }
 }
 
-TEST_F(SettingsTest, MenuSwitchesFlipTheMarkAndTheFlagTogether) {
+// Each entry of the Settings menu, one after the other, while a hand's timer runs on.
+TEST_F(SettingsTest, MenuEntriesSetTheTimersTheMarksAndTheFlags) {
     g.ReadSettings();
-    const std::pair<void (Game::*)(), const char*> steps[] = {{&Game::mnuSound_Click, "-+"},
-                                                              {&Game::mnuTips_Click, "--"},
-                                                              {&Game::mnuSound_Click, "+-"},
-                                                              {&Game::mnuTips_Click, "++"},
-                                                              {&Game::mnuTips_Click, "+-"}};  // sound, tips
-    for (const auto& [click, marks] : steps) {
+    g.EnableTimer(TimerBetFlop);
+    const std::tuple<void (Game::*)(), std::vector<int>, const char*, bool, bool> steps[] = {
+        {&Game::mnuFastSpeed_Click, kFast, "F", true, true},
+        {&Game::mnuSound_Click, kFast, "F", false, true},
+        {&Game::mnuSlowSpeed_Click, kSlow, "S", false, true},
+        {&Game::mnuTips_Click, kSlow, "S", false, false},
+        {&Game::mnuSound_Click, kSlow, "S", true, false},
+        {&Game::mnuMediumSpeed_Click, kMedium, "M", true, false},
+        {&Game::mnuTips_Click, kMedium, "M", true, true}};
+    for (const auto& [click, intervals, mark, sound, tips] : steps) {
         (g.*click)();
-        const bool sound = marks[0] == '+', tips = marks[1] == '+';
+        EXPECT_EQ(std::make_tuple(Speed(g), int{g.GameSpeed}, g.RunningTimer()),
+                  std::make_tuple(std::make_pair(intervals, std::string(mark)),
+                                  std::string("FMS").find(mark) + 1, TimerBetFlop));
         EXPECT_EQ(
             std::make_tuple(g.SoundOn, g.view.mnuSound.checked, g.TipsAtStartup, g.view.mnuTips.checked),
             std::make_tuple(sound, sound, tips, tips));
@@ -116,19 +110,17 @@ TEST_F(SettingsTest, StandingsAndFloorWriteTheWholeRosterFirst) {
     EXPECT_EQ(ReadAll(dir.File("stnd.dat")), "0,0,0,0\r\n");
     FillRoster(g, 80);
     g.RosterName[2] = "O\"Neil, Pat";
-    g.RosterTag[80] = -3;
-    g.RosterBank[80] = 0;
-    g.RosterPlace[80] = 79;
+    std::tie(g.RosterTag[80], g.RosterBank[80], g.RosterPlace[80]) = std::make_tuple(-3, 0, 79);
     std::tie(g.HandsPlayed, g.ButtonSeat, g.SmallBlind) = std::make_tuple(12, 6, 200);
     for (auto click : {&Game::cmdStandings_Click, &Game::mnuStandings_Click, &Game::cmdFloor_Click,
                        &Game::mnuFloor_Click}) {
         std::filesystem::remove(g.StandingsPath);
         (g.*click)();
         const std::string text = ReadAll(g.StandingsPath);
-        EXPECT_EQ(text.substr(0, text.find("\r\n2,")), "80,12,6,200\r\n1,\"The User\",10000,0,1");
-        EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 81);
-        EXPECT_NE(text.find("\r\n2,\"O'Neil, Pat\",10000,0,2\r\n"), std::string::npos);
-        EXPECT_EQ(text.substr(text.size() - 30), "\r\n-3,\"Player No. 80\",0,79,80\r\n");
+        EXPECT_EQ(std::make_tuple(text.substr(0, text.find("\r\n3,")),
+                                  std::count(text.begin(), text.end(), '\n'), text.substr(text.size() - 30)),
+                  std::make_tuple("80,12,6,200\r\n1,\"The User\",10000,0,1\r\n2,\"O'Neil, Pat\",10000,0,2",
+                                  81, "\r\n-3,\"Player No. 80\",0,79,80\r\n"));
     }
     EXPECT_EQ(p.standings, std::vector<std::string>(2, dir.File("stnd.dat")));
     EXPECT_EQ(p.floors, std::vector<std::string>(3, dir.File("stnd.dat")));
