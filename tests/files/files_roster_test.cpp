@@ -30,143 +30,108 @@ std::vector<Element*> HandElements(View& v) {
     std::vector<Element*> all = {&v.cmdDeal,     &v.cmdStandings, &v.cmdFloor,   &v.lblPot,
                                  &v.lblPotLabel, &v.lblBlind,     &v.lblGoodLuck};
     for (int s = 1; s <= kSeats; ++s)
-        for (Element* e : {&v.lblBet[s], &v.lblPaid[s], &v.iArrow[s], &v.iButton[s], &v.lblPCardIndex[s],
-                           &v.lblPCardValue[s]})
-            all.push_back(e);
+        all.insert(all.end(), {&v.lblBet[s], &v.lblPaid[s], &v.iArrow[s], &v.iButton[s], &v.lblPCardIndex[s],
+                               &v.lblPCardValue[s]});
     for (int c = 1; c <= 21; ++c) all.push_back(&v.icard[c]);
     for (int i = 1; i <= 4; ++i) all.push_back(&v.cmdPlay[i]);
     return all;
 }
 
+// The table as a load leaves it: size, hands, button, players left, seat 1's name, blinds, greeting.
+std::string Outcome(const Game& g) {
+    return std::to_string(g.TournamentSize) + " " + std::to_string(g.HandsPlayed) + " " +
+           std::to_string(g.ButtonSeat) + " " + std::to_string(g.NextFinishPlace) + " " + g.SeatName[1] +
+           ", " + g.view.lblBlind.text + ", " + g.view.lblGoodLuck.text;
+}
+
 using RosterTest = FileTest;
 
+// A new game reads gamedata.dat in the size chosen; StartHand moves the button on from the last of the
+// three draws. An opened game keeps its own name for seat 1.
 TEST_F(RosterTest, LoadSetsUpTheTableAndDealsAtOnce) {
-    // A new game reads gamedata.dat; StartHand moves the button on from the last of the three draws.
-    const struct {
-        const char* what;
-        std::string file;  // a saved game; empty for a new game of `size`
-        std::vector<float> draws;
-        int size, hands, button, left;
-        const char* blinds;
-        bool finalTable;
-    } cases[] = {
-        {"new 80 of 1000", "", {0.99f, 0.0f, 0.7f}, 80, 1, 7, 80, "$100 - $200", false},
-        {"draw 2.5 rounds down", "", {0.3f, 0.9f, kHalf}, 8, 1, 4, 8, "$100 - $200", false},
-        {"draw 1.5 rounds up", "", {0.5f, 0.7f, kOneAndAHalf}, 8, 1, 4, 8, "$100 - $200", false},
-        {"draw at the top", "", {0.0f, 0.0f, 0.99999994f}, 8, 1, 1, 8, "$100 - $200", false},
-        {"draw at the bottom", "", {0.9f, 0.9f, 0.0f}, 8, 1, 2, 8, "$100 - $200", false},
-        {"saved with no hand",
-         Field(8, "", 'i', 0, 3, 5000),
-         {0.1f, 0.2f, 0.7f},
-         8,
-         1,
-         7,
-         8,
-         "$100 - $200",
-         false},
-        {"eight left of 80", Field(80, "iiiiiiii", 'o'), {}, 80, 31, 3, 8, "$1,500 - $3,000", true},
+    const std::tuple<std::string, std::vector<float>, const char*> cases[] = {
+        // saved game, draws, outcome
+        {"", {0.99f, 0.0f, 0.7f}, "80 1 7 80 Alice, Blinds: $100 - $200, Good Luck!"},
+        {"", {0.3f, 0.9f, kHalf}, "8 1 4 8 Alice, Blinds: $100 - $200, Good Luck!"},
+        {"", {0.5f, 0.7f, kOneAndAHalf}, "8 1 4 8 Alice, Blinds: $100 - $200, Good Luck!"},
+        {"", {0.0f, 0.0f, 0.99999994f}, "8 1 1 8 Alice, Blinds: $100 - $200, Good Luck!"},
+        {Field(8, "", 'i', 0, 3, 5000), {0.1f, 0.2f, 0.7f}, "8 1 7 8 P1, Blinds: $100 - $200, Good Luck!"},
+        {Field(80, "iiiiiiii", 'o'), {}, "80 31 3 8 P1, Blinds: $1,500 - $3,000, Final Table!"},
         // Balancing sends three of table 1 to table 2.
-        {"nine left of 80", Field(80, "iiiiiiiii", 'o'), {}, 80, 31, 6, 9, "$1,500 - $3,000", false},
-        {"three left of 8",
-         Field(8, "iiiooooo", 'o', 2, 8, 250000),
-         {},
-         8,
-         3,
-         1,
-         3,
-         "$250,000 - $500,000",
-         false},
-        {"places, not chips", Field(200, "iiiiiipp", 'o'), {}, 200, 31, 3, 6, "$1,500 - $3,000", true},
-        {"in without chips", Field(8, "iizopiii", 'i'), {}, 8, 31, 5, 6, "$1,500 - $3,000", false},
-    };
+        {Field(80, "iiiiiiiii", 'o'), {}, "80 31 6 9 P1, Blinds: $1,500 - $3,000, Good Luck!"},
+        {Field(8, "iiiooooo", 'o', 2, 8, 250000), {}, "8 3 1 3 P1, Blinds: $250,000 - $500,000, Good Luck!"},
+        {Field(200, "iiiiiipp", 'o'), {}, "200 31 3 6 P1, Blinds: $1,500 - $3,000, Final Table!"},
+        {Field(8, "iizopiii", 'i'), {}, "8 31 5 6 P1, Blinds: $1,500 - $3,000, Good Luck!"}};
     WriteAll(dir.File("gamedata.dat"), RosterText(1000, 0, 5, 700, FieldLines(100)));
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [file, draws, outcome] : cases) {
+        SCOPED_TRACE(outcome);
         ScriptedPlatform p2;
         Game g2(p2);
-        g2.AppFolder = dir.Folder();
-        g2.TournamentSize = static_cast<int16_t>(c.file.empty() ? c.size : 1000);
-        g2.SeatName[1] = "Alice";
+        std::tie(g2.AppFolder, g2.SeatName[1], g2.UserFinishPlace) =
+            std::make_tuple(dir.Folder(), "Alice", 99);
+        g2.TournamentSize = static_cast<int16_t>(file.empty() ? std::stoi(outcome) : 1000);
         g2.GameUnsaved = g2.view.picTableMoney.visible = true;
-        g2.UserFinishPlace = 99;
-        std::tie(g2.RosterTag[201], g2.RosterName[201], g2.RosterBank[201]) = std::make_tuple(77, "old", 5);
-        std::tie(g2.RosterPlace[201], g2.RosterNumber[201]) = std::make_tuple(4, 201);
-        if (!c.file.empty()) WriteAll(g2.SavedGamePath = dir.File("game.sgf"), c.file);
-        g2.rnd.Script(LoadDraws(c.draws));
+        std::tie(g2.RosterTag[201], g2.RosterName[201], g2.RosterBank[201], g2.RosterPlace[201],
+                 g2.RosterNumber[201]) = std::make_tuple(77, "old", 5, 4, 201);
+        if (!file.empty()) WriteAll(g2.SavedGamePath = dir.File("game.sgf"), file);
+        g2.rnd.Script(LoadDraws(draws));
         g2.LoadRoster();
         ExpectDrawsUsed(g2);
-        EXPECT_TRUE(p2.messages.empty());
-        EXPECT_EQ(std::make_tuple(int{g2.TournamentSize}, int{g2.HandsPlayed}, int{g2.ButtonSeat},
-                                  int{g2.NextFinishPlace}, int{g2.UserFinishPlace}),
-                  std::make_tuple(c.size, c.hands, c.button, c.left, 0));
-        const std::string name = c.file.empty() ? "Alice" : "P1";  // an opened game keeps its own
-        EXPECT_EQ(std::tie(g2.RosterName[1], g2.SeatName[1], g2.view.lblName[1].text),
-                  std::tie(name, name, name));
-        EXPECT_EQ(std::make_tuple(g2.view.lblBlind.text, g2.view.lblGoodLuck.text),
-                  std::make_tuple("Blinds: " + std::string(c.blinds),
-                                  c.finalTable ? "Final Table!" : "Good Luck!"));
-        EXPECT_EQ(std::make_tuple(g2.RosterName[c.size].empty(), g2.RosterName[c.size + 1], g2.SeatName[8]),
-                  std::make_tuple(false, "", g2.RosterName[8]));
+        EXPECT_EQ(Outcome(g2), outcome);
+        const int size = g2.TournamentSize;
+        EXPECT_EQ(
+            std::make_tuple(g2.RosterName[1], g2.view.lblName[1].text, g2.SeatName[8],
+                            g2.RosterName[size].empty(), g2.RosterName[size + 1], int{g2.UserFinishPlace}),
+            std::make_tuple(g2.SeatName[1], g2.SeatName[1], g2.RosterName[8], false, "", 0));
         EXPECT_EQ(std::tie(g2.RosterTag[201], g2.RosterName[201], g2.RosterBank[201], g2.RosterPlace[201],
                            g2.RosterNumber[201]),
                   std::make_tuple(77, "", 0, 0, 0));
-        EXPECT_TRUE(g2.view.lblGoodLuck.visible && !g2.view.picTableMoney.visible && !g2.GameUnsaved);
-        EXPECT_EQ(g2.RunningTimer(), TimerDealHole);
+        EXPECT_TRUE(p2.messages.empty() && g2.view.lblGoodLuck.visible && !g2.view.picTableMoney.visible &&
+                    !g2.GameUnsaved && g2.RunningTimer() == TimerDealHole);
     }
 }
 
 TEST_F(RosterTest, SaveWritesEveryFieldInItsPlaceAndOpensBackWhole) {
     FillRoster(g, 8);
-    for (int pos = 1; pos <= 8; ++pos) {
-        g.RosterTag[pos] = static_cast<int16_t>(100 + pos);
-        g.RosterBank[pos] = 9000 + 100 * pos;
-        g.RosterNumber[pos] = static_cast<int16_t>(pos == 1 ? 1 : 20 + pos);
-    }
-    g.RosterName[2] = "Smith, John";
-    g.RosterName[3] = "  Blank Ends  ";
-    g.RosterName[4] = "Say \"Hi\"";
-    g.RosterTag[5] = -7;
-    std::tie(g.RosterBank[6], g.RosterPlace[6]) = std::make_tuple(0, 8);
+    for (int pos = 1; pos <= 8; ++pos)
+        std::tie(g.RosterTag[pos], g.RosterBank[pos], g.RosterNumber[pos]) =
+            std::make_tuple(100 + pos, 9000 + 100 * pos, pos == 1 ? 1 : 20 + pos);
+    std::tie(g.RosterName[2], g.RosterName[3], g.RosterName[4]) =
+        std::make_tuple("Smith, John", "  Blank Ends  ", "Say \"Hi\"");
+    std::tie(g.RosterTag[5], g.RosterBank[6], g.RosterPlace[6]) = std::make_tuple(-7, 0, 8);
     std::tie(g.HandsPlayed, g.ButtonSeat, g.SmallBlind, g.GameUnsaved) = std::make_tuple(14, 3, 400, true);
-    p.savePaths.push_back(dir.File("mine"));
+    p.savePaths = {dir.File("mine"), dir.File("new.sgf")};
     g.mnuSave_Click();
-    ASSERT_EQ(p.saveDialogs.size(), 1u);
-    const FileDialogRequest& asked = p.saveDialogs[0];
-    EXPECT_EQ(std::tie(asked.title, asked.filter, asked.folder),
-              std::make_tuple("Save Game As", "Saved Game Files (*.sgf)|*.sgf", dir.Folder()));
-    EXPECT_TRUE(p.messages.empty());
-    EXPECT_EQ(std::tie(g.SavedGamePath, g.GameUnsaved), std::make_tuple(dir.File("mine.sgf"), false));
+    EXPECT_EQ(std::make_tuple(p.messages.size(), g.SavedGamePath, g.GameUnsaved),
+              std::make_tuple(0u, dir.File("mine.sgf"), false));
+    const std::string text = ReadAll(dir.File("mine.sgf"));
     EXPECT_EQ(
-        ReadAll(dir.File("mine.sgf")),
+        text,
         "8,14,3,400\r\n101,\"The User\",9100,0,1\r\n102,\"Smith, John\",9200,0,22\r\n"
         "103,\"  Blank Ends  \",9300,0,23\r\n104,\"Say 'Hi'\",9400,0,24\r\n-7,\"Player No. 5\",9500,0,25\r\n"
         "106,\"Player No. 6\",0,8,26\r\n107,\"Player No. 7\",9700,0,27\r\n108,\"Player No. "
         "8\",9800,0,28\r\n");
-
-    g.GameUnsaved = true;  // saved again to the same file, without a question
-    g.mnuSave_Click();
-    EXPECT_EQ(std::make_pair(p.saveDialogs.size(), g.GameUnsaved), std::make_pair(std::size_t{1}, false));
-
+    g.GameUnsaved = true;
+    g.mnuSave_Click();  // to the same file, without a question
     ScriptedPlatform p2;
     Game g2(p2);
-    g2.AppFolder = dir.Folder();
-    p2.openPaths.push_back(dir.File("mine.sgf"));
+    std::tie(g2.AppFolder, p2.openPaths) =
+        std::make_tuple(dir.Folder(), std::deque<std::optional<std::string>>{dir.File("mine.sgf")});
     g2.rnd.Script(LoadDraws());
     g2.mnuOpen_Click();
-    ASSERT_TRUE(p2.messages.empty());
-    const FileDialogRequest& opened = p2.openDialogs.at(0);
-    EXPECT_EQ(std::tie(opened.title, opened.filter, opened.folder),
-              std::make_tuple("Open Saved Game", "Saved Game Files (*.sgf)|*.sgf", dir.Folder()));
     g.RosterName[4] = "Say 'Hi'";
     EXPECT_EQ(std::tie(g2.RosterTag, g2.RosterName, g2.RosterBank, g2.RosterPlace, g2.RosterNumber),
               std::tie(g.RosterTag, g.RosterName, g.RosterBank, g.RosterPlace, g.RosterNumber));
-    EXPECT_EQ(std::make_tuple(g2.SavedGamePath, int{g2.HandsPlayed}, int{g2.SmallBlind}, int{g2.PlayersLeft}),
-              std::make_tuple(dir.File("mine.sgf"), 15, 400, 7));
-
-    p.savePaths.push_back(dir.File("new.sgf"));  // Save As moves the game to the new path
-    g.mnuSaveAs_Click();
-    EXPECT_EQ(g.SavedGamePath, dir.File("new.sgf"));
-    EXPECT_EQ(ReadAll(dir.File("new.sgf")).substr(0, 12), "8,14,3,400\r\n");
+    EXPECT_EQ(std::make_tuple(p2.messages.size(), g2.SavedGamePath, int{g2.HandsPlayed}, int{g2.SmallBlind},
+                              int{g2.PlayersLeft}),
+              std::make_tuple(0u, dir.File("mine.sgf"), 15, 400, 7));
+    g.mnuSaveAs_Click();  // the game moves to the new path
+    EXPECT_EQ(std::make_tuple(g.SavedGamePath, ReadAll(dir.File("new.sgf")), g.GameUnsaved),
+              std::make_tuple(dir.File("new.sgf"), text, false));
+    for (const FileDialogRequest& asked : {p.saveDialogs.at(0), p.saveDialogs.at(1), p2.openDialogs.at(0)})
+        EXPECT_EQ(std::tie(asked.filter, asked.folder),
+                  std::make_tuple("Saved Game Files (*.sgf)|*.sgf", dir.Folder()));
+    EXPECT_EQ(p.saveDialogs[1].title + "|" + p2.openDialogs[0].title, "Save Game As|Open Saved Game");
 }
 
 TEST_F(RosterTest, OpenTakesEveryFileWithinTheRangesAndRefusesTheRest) {
@@ -225,64 +190,52 @@ TEST_F(RosterTest, CancelsAndFailedSavesTellTheUserAndKeepThePathAndTheFlag) {
     g.EnableTimer(TimerBetFlop);
     g.GameUnsaved = true;
     std::filesystem::create_directory(dir.File("taken.sgf"));
-    const struct {
-        const char* what;
-        void (Game::*action)();
-        const char* path;  // SavedGamePath before; nullptr for empty
-        const char* message;
-    } cases[] = {
-        {"open cancelled", &Game::mnuOpen_Click, "else.sgf", kNotOpened},
-        {"save cancelled", &Game::mnuSave_Click, nullptr, kNotSaved},
-        {"save as cancelled", &Game::mnuSaveAs_Click, "kept.sgf", kNotSaved},
-        {"no such folder", &Game::SaveGame, "no-such-folder/game.sgf", kNotSaved},
-        {"a folder in the way", &Game::mnuSave_Click, "taken.sgf", kNotSaved},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
-        g.SavedGamePath = c.path ? dir.File(c.path) : "";
-        (g.*c.action)();
-        ExpectMessage(c.message, "Game Not Saved");
-        EXPECT_EQ(g.SavedGamePath, c.path ? dir.File(c.path) : "");
-        EXPECT_TRUE(g.GameUnsaved);
-        EXPECT_EQ(std::make_tuple(int{g.HandsPlayed}, g.RosterName[2], g.RunningTimer()),
-                  std::make_tuple(6, "Player No. 2", TimerBetFlop));
+    const std::tuple<void (Game::*)(), const char*, const char*> cases[] = {
+        // path before ("" none), message
+        {&Game::mnuOpen_Click, "else.sgf", kNotOpened},
+        {&Game::mnuSave_Click, "", kNotSaved},
+        {&Game::mnuSaveAs_Click, "kept.sgf", kNotSaved},
+        {&Game::SaveGame, "no-such-folder/game.sgf", kNotSaved},
+        {&Game::mnuSave_Click, "taken.sgf", kNotSaved}};
+    for (const auto& [action, path, message] : cases) {
+        SCOPED_TRACE(path);
+        g.SavedGamePath = *path ? dir.File(path) : "";
+        (g.*action)();
+        ExpectMessage(message, "Game Not Saved");
+        EXPECT_EQ(std::make_tuple(g.SavedGamePath, g.GameUnsaved, int{g.HandsPlayed}, g.RosterName[2],
+                                  g.RunningTimer()),
+                  std::make_tuple(*path ? dir.File(path) : "", true, 6, "Player No. 2", TimerBetFlop));
     }
-    EXPECT_FALSE(std::filesystem::exists(dir.File("kept.sgf")));
-    EXPECT_TRUE(std::filesystem::is_directory(dir.File("taken.sgf")));
+    EXPECT_TRUE(!std::filesystem::exists(dir.File("kept.sgf")) &&
+                std::filesystem::is_directory(dir.File("taken.sgf")));
     EXPECT_EQ(std::make_pair(p.openDialogs.back().folder, p.saveDialogs.size()),
               std::make_pair(dir.Folder(), std::size_t{2}));
 }
 
 TEST_F(RosterTest, FinishedGameOpensToItsFinalStateAndDealsNothing) {
-    const struct {
-        std::string text;
-        bool won;
-        int userPlace;
-        const char* detail;
-    } cases[] = {
+    const std::tuple<std::string, bool, int, const char*> cases[] = {
+        // file, won, user's place, message
         {Field(8, "oooiiooo", 'o', 40), false, 8, "You Finished 8th."},  // the user went out; two play on
         {Field(8, "iooooooo", 'o', 40), true, 0, "You won it."},
-        {Field(8, "zzzzzzzz", 'z', 40), false, 0, "No hand can be dealt from it."},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.detail);
+        {Field(8, "zzzzzzzz", 'z', 40), false, 0, "No hand can be dealt from it."}};
+    for (const auto& [file, won, place, detail] : cases) {
+        SCOPED_TRACE(detail);
         g.GameEnded = false;
         g.GameUnsaved = g.view.picTableMoney.visible = true;
         for (Element* e : HandElements(g.view)) e->visible = true;
-        Open(c.text, {});
+        Open(file, {});
         ExpectDrawsUsed(g);
-        EXPECT_EQ(p.messages.at(0).text, "This saved game is already over. " + std::string(c.detail) +
-                                             "\n\nChoose New or Open in the File menu to play on.");
-        ExpectMessage("This saved game is already over. " + std::string(c.detail), "Game Over",
-                      MsgIcon::Information);
+        const std::string text = "This saved game is already over. " + std::string(detail);
+        EXPECT_EQ(p.messages.at(0).text, text + "\n\nChoose New or Open in the File menu to play on.");
+        ExpectMessage(text, "Game Over", MsgIcon::Information);
+        EXPECT_EQ(std::make_tuple(int{g.HandsPlayed}, int{g.UserFinishPlace}, g.view.picTableMoney.visible,
+                                  g.RunningTimer()),
+                  std::make_tuple(40, place, won, kTimerCount));
         EXPECT_TRUE(g.GameEnded && !g.GameUnsaved && g.view.mnuSave.enabled && g.view.mnuSaveAs.enabled);
-        EXPECT_EQ(std::make_tuple(int{g.HandsPlayed}, int{g.UserFinishPlace}, g.view.picTableMoney.visible),
-                  std::make_tuple(40, c.userPlace, c.won));
         for (Element* e : HandElements(g.view)) EXPECT_FALSE(e->visible);
         for (int s = 1; s <= kSeats; ++s)
             EXPECT_TRUE(g.view.lblName[s].visible && g.view.lblBankDollarSign[s].visible &&
                         g.view.lblBank[s].visible);
-        EXPECT_EQ(g.RunningTimer(), kTimerCount);
     }
 }
 
