@@ -115,70 +115,52 @@ private slots:
     }
 
     // Which exits ask, by the way out and the state of the game, and what each answer does.
-    void theExitQuestion_data() {
-        for (const char* c : {"closeBox", "userBank", "hands", "unsaved", "ended", "left", "answer", "asks"})
-            QTest::addColumn<int>(c);
-        const int no = int(MsgAnswer::No), yes = int(MsgAnswer::Yes), cancel = int(MsgAnswer::Cancel);
-        QTest::newRow("menu, in play") << 0 << 5000 << 2 << 1 << 0 << 8 << no << 1;
-        QTest::newRow("box, in play") << 1 << 5000 << 2 << 1 << 0 << 8 << no << 1;
-        QTest::newRow("menu, one hand only") << 0 << 5000 << 1 << 1 << 0 << 8 << no << 0;
-        QTest::newRow("box, one hand only") << 1 << 5000 << 1 << 1 << 0 << 8 << no << 0;
-        QTest::newRow("menu, saved") << 0 << 5000 << 5 << 0 << 0 << 8 << no << 0;
-        QTest::newRow("box, user busted") << 1 << 0 << 5 << 1 << 1 << 8 << no << 0;
-        QTest::newRow("menu, ended, players left") << 0 << 5000 << 5 << 1 << 1 << 8 << no << 0;
-        QTest::newRow("box, ended, players left") << 1 << 5000 << 5 << 1 << 1 << 8 << no << 1;
-        QTest::newRow("menu, won, one left") << 0 << 80000 << 5 << 1 << 0 << 1 << no << 1;
-        QTest::newRow("box, won, one left") << 1 << 80000 << 5 << 1 << 0 << 1 << no << 0;
-        QTest::newRow("menu, cancel") << 0 << 5000 << 2 << 1 << 0 << 8 << cancel << 1;
-        QTest::newRow("box, cancel") << 1 << 5000 << 2 << 1 << 0 << 8 << cancel << 1;
-        QTest::newRow("menu, yes") << 0 << 5000 << 2 << 1 << 0 << 8 << yes << 1;
-    }
     void theExitQuestion() {
-        QFETCH(int, closeBox);
-        QFETCH(int, userBank);
-        QFETCH(int, hands);
-        QFETCH(int, unsaved);
-        QFETCH(int, ended);
-        QFETCH(int, left);
-        QFETCH(int, answer);
-        QFETCH(int, asks);
-        QFile::remove(dir_.filePath("settings.dft"));
-        QFile::remove(dir_.filePath("mine.sgf"));
-        test::ScriptedPlatform platform;
-        frmMain w(Folder(), &platform);
-        int quits = 0;
-        w.onQuit = [&quits] { ++quits; };
-        w.Start();  // the splash, then the tip, over the shown window
-        QVERIFY(platform.infos == std::vector<InfoForm>({InfoForm::Splash, InfoForm::Tip}) &&
-                w.cmdDeal->isHidden());
-        Game& g = w.game;
-        g.TournamentSize = 8;
-        for (int s = 1; s <= kSeats; ++s)
-            std::tie(g.RosterNumber[s], g.RosterBank[s]) = std::make_tuple(s, s == 1 ? userBank : 10000);
-        std::tie(g.HandsPlayed, g.GameUnsaved, g.GameEnded, g.PlayersLeft, g.ButtonSeat) =
-            std::make_tuple(hands, unsaved, ended, left, 3);
-        w.mnuSlowSpeed->trigger();  // the settings of the run are written on the way out
-        platform.answers.push_back(MsgAnswer(answer));
-        platform.savePaths.push_back(dir_.filePath("mine.sgf").toStdString());
-        const bool leaves = !(asks && answer == int(MsgAnswer::Cancel)),
-                   saves = asks && answer == int(MsgAnswer::Yes);
-        if (closeBox)
-            w.close();
-        else
-            QCOMPARE(w.mnuExit_Click(), leaves);
-        QCOMPARE(platform.messages.size(), std::size_t(asks));
-        if (asks)
-            QCOMPARE(std::make_tuple(platform.messages[0].text, platform.messages[0].title,
-                                     platform.messages[0].icon, platform.messages[0].buttons),
-                     std::make_tuple(std::string("Do you want to save the current game?"),
-                                     std::string("Exit"), MsgIcon::Information, MsgButtons::YesNoCancel));
-        QFile saved(dir_.filePath("mine.sgf")), settings(dir_.filePath("settings.dft"));
-        QCOMPARE(saved.open(QIODevice::ReadOnly) &&
-                     saved.readAll().startsWith("8," + QByteArray::number(hands) + ",3,"),
-                 saves);
-        QCOMPARE(settings.open(QIODevice::ReadOnly) && settings.readAll() == "3,#TRUE#,#TRUE#\r\n", leaves);
-        QCOMPARE(std::make_tuple(quits, w.isVisible(), g.GameUnsaved),
-                 std::make_tuple(int(leaves), !leaves, unsaved && !saves));
+        const int no = int(MsgAnswer::No), yes = int(MsgAnswer::Yes), cancel = int(MsgAnswer::Cancel);
+        const int cases[][8] = {// close box, user's bank, hands, unsaved, ended, players left, answer, asks
+                                {0, 5000, 2, 1, 0, 8, no, 1},     {1, 5000, 2, 1, 0, 8, no, 1},
+                                {1, 5000, 1, 1, 0, 8, no, 0},     {0, 5000, 5, 0, 0, 8, no, 0},
+                                {1, 0, 5, 1, 1, 8, no, 0},        {0, 5000, 5, 1, 1, 8, no, 0},
+                                {1, 5000, 5, 1, 1, 8, no, 1},     {0, 80000, 5, 1, 0, 1, no, 1},
+                                {1, 80000, 5, 1, 0, 1, no, 0},    {0, 5000, 2, 1, 0, 8, cancel, 1},
+                                {1, 5000, 2, 1, 0, 8, cancel, 1}, {0, 5000, 2, 1, 0, 8, yes, 1}};
+        for (const auto& [closeBox, userBank, hands, unsaved, ended, left, answer, asks] : cases) {
+            QFile::remove(dir_.filePath("settings.dft"));
+            QFile::remove(dir_.filePath("mine.sgf"));
+            test::ScriptedPlatform platform;
+            frmMain w(Folder(), &platform);
+            int quits = 0;
+            w.onQuit = [&quits] { ++quits; };
+            w.Start();  // the splash, then the tip, over the shown window
+            QVERIFY(platform.infos == std::vector<InfoForm>({InfoForm::Splash, InfoForm::Tip}) &&
+                    w.cmdDeal->isHidden());
+            Game& g = w.game;
+            g.TournamentSize = 8;
+            for (int s = 1; s <= kSeats; ++s)
+                std::tie(g.RosterNumber[s], g.RosterBank[s]) = std::make_tuple(s, s == 1 ? userBank : 10000);
+            std::tie(g.HandsPlayed, g.GameUnsaved, g.GameEnded, g.PlayersLeft, g.ButtonSeat) =
+                std::make_tuple(hands, unsaved, ended, left, 3);
+            w.mnuSlowSpeed->trigger();  // the settings of the run are written on the way out
+            platform.answers.push_back(MsgAnswer(answer));
+            platform.savePaths.push_back(dir_.filePath("mine.sgf").toStdString());
+            const bool leaves = !(asks && answer == cancel), saves = asks && answer == yes;
+            QVERIFY(closeBox ? w.close() == leaves : w.mnuExit_Click() == leaves);
+            QCOMPARE(platform.messages.size(), std::size_t(asks));
+            if (asks)
+                QCOMPARE(platform.messages[0].text + platform.messages[0].title,
+                         std::string("Do you want to save the current game?Exit"));
+            if (asks)
+                QVERIFY(platform.messages[0].icon == MsgIcon::Information &&
+                        platform.messages[0].buttons == MsgButtons::YesNoCancel);
+            QFile saved(dir_.filePath("mine.sgf")), settings(dir_.filePath("settings.dft"));
+            QCOMPARE(saved.open(QIODevice::ReadOnly) &&
+                         saved.readAll().startsWith("8," + QByteArray::number(hands) + ",3,"),
+                     saves);
+            QCOMPARE(settings.open(QIODevice::ReadOnly) && settings.readAll() == "3,#TRUE#,#TRUE#\r\n",
+                     leaves);
+            QCOMPARE(std::make_tuple(quits, w.isVisible(), g.GameUnsaved),
+                     std::make_tuple(int(leaves), !leaves, unsaved && !saves));
+        }
     }
 
     // Only digits get through; OK or Enter refuses with a message and keeps the dialog, or closes
