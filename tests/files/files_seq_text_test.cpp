@@ -45,6 +45,7 @@ TEST(SeqTextTest, ReaderTakesItemsByPosition) {
         {"1.5", "h", "!(text): line 1: a number is expected for a 16-bit item"},
         {"--1", "h", "!(text): line 1: a number is expected for a 16-bit item"},
         {"TRUE", "b", "!(text): line 1: #TRUE# or #FALSE# is expected"},
+        {"xTRUE#", "b", "!(text): line 1: #TRUE# or #FALSE# is expected"},
         {"\"#TRUE#\"", "b", "!(text): line 1: #TRUE# or #FALSE# is expected"},
         {"\"open", "s", "!(text): line 1: a quoted string is not closed"},
         {"\"open\r\n\"", "s", "!(text): line 1: a quoted string is not closed"},
@@ -88,30 +89,30 @@ TEST(SeqTextTest, WriterRoundTripsAndReplacesTheFileWholeOrNotAtAll) {
     EXPECT_EQ(std::distance(begin(entries), end(entries)), 3);  // no temporary left behind
 }
 
+// gamedata.dat: 1,000 players of distinct names and numbers ready for a new game,
+// the user first; settings.dft: medium, sound on, tips on; one tip to a line.
 TEST(ShippedDataTest, GameDataSettingsAndTipsAreReadyForANewGame) {
-    const std::string text = ReadAll(ShippedFile("gamedata.dat"));
-    EXPECT_EQ(std::make_pair(std::count(text.begin(), text.end(), '\n'),
-                             std::count(text.begin(), text.end(), '\r')),
-              std::make_pair(1001l, 1001l));
     SeqReader in(ShippedFile("gamedata.dat"));
-    EXPECT_EQ(Items(in, "hhhl").substr(0, 6), "1000|0");
+    const std::string header = Items(in, "hhhl");
     std::set<std::string> names, numbers;
     for (int p = 1; p <= kRoster; ++p) {
-        const std::string line = Items(in, "hslhh"),
-                          name = line.substr(line.find('|') + 1, line.find("|10000|0|") - line.find('|') - 1);
-        const std::string number = line.substr(line.rfind('|') + 1);
-        EXPECT_TRUE(line.find("|10000|0|") != std::string::npos && (number == "1") == (p == 1)) << line;
-        EXPECT_TRUE(!name.empty() && name.size() <= 20 && name.find('"') == std::string::npos) << name;
-        names.insert(name);
+        const std::string line = Items(in, "hslhh"), number = line.substr(line.rfind('|') + 1);
+        const std::size_t start = line.find('|') + 1, end = line.find("|10000|0|");
+        EXPECT_TRUE(end != std::string::npos && end - start <= 20 && line.find('"') == std::string::npos &&
+                    (number == "1") == (p == 1))
+            << line;
+        names.insert(line.substr(start, end - start));
         numbers.insert(number);
     }
-    EXPECT_EQ(std::make_tuple(in.AtEnd(), names.size(), numbers.size()), std::make_tuple(true, 1000u, 1000u));
+    EXPECT_EQ(std::make_tuple(header.substr(0, 6), in.AtEnd(), names.size(), numbers.size()),
+              std::make_tuple("1000|0", true, 1000u, 1000u));
     EXPECT_EQ(ReadAll(ShippedFile("settings.dft")), "2,#TRUE#,#TRUE#\r\n");
-    const std::string tips = ReadAll(ShippedFile("TIPOFDAY.TXT"));
-    int count = 0;
-    for (std::size_t at = 0, end; (end = tips.find("\r\n", at)) != std::string::npos; at = end + 2, ++count)
-        EXPECT_GT(end - at, 20u) << "tip " << count + 1 << " is too short";
-    EXPECT_TRUE(count >= 30 && tips.substr(tips.size() - 2) == "\r\n");
+    const std::string tips = ReadAll(ShippedFile("TIPOFDAY.TXT")),
+                      text = ReadAll(ShippedFile("gamedata.dat"));
+    EXPECT_EQ(std::make_tuple(std::count(text.begin(), text.end(), '\r'),
+                              std::count(text.begin(), text.end(), '\n'), tips.find("\r\n\r\n"),
+                              tips.substr(tips.size() - 2)),
+              std::make_tuple(1001, 1001, std::string::npos, "\r\n"));
 }
 
 }  // namespace
