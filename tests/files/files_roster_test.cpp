@@ -347,11 +347,15 @@ TEST_F(NewGameTest, MissingShortOrEmptyGameDataGivesAMessageAndNoGame) {
         WriteAll(dir.File("gamedata.dat"), text);
         if (text.empty()) std::filesystem::remove(dir.File("gamedata.dat"));
         Choose(false);
+        std::tie(g.GameUnsaved, g.PlayersLeft, g.view.cmdDeal.visible) = std::make_tuple(true, 5, true);
         g.mnuNew_Click();
         EXPECT_EQ(p.messages.at(0).text.substr(0, 65 + dir.Folder().size()),
                   "The players of a new game could not be read from gamedata.dat in\n" + dir.Folder());
         ExpectMessage("The players of a new game could not be read from gamedata.dat in", "Game Not Started");
-        EXPECT_EQ(std::make_pair(g.RunningTimer(), int{g.HandsPlayed}), std::make_pair(kTimerCount, 0));
+        // Without its players there is no game: nothing to deal, to save or to ask about at exit.
+        EXPECT_EQ(std::make_tuple(NoHandDealt(g), int{g.TournamentSize}, int{g.HandsPlayed},
+                                  int{g.PlayersLeft}, g.GameUnsaved),
+                  std::make_tuple(true, 0, 0, 0, false));
     }
 }
 
