@@ -57,7 +57,7 @@ TEST_F(RosterTest, LoadSetsUpTheTableAndDealsAtOnce) {
         {"", {0.0f, 0.0f, 0.99999994f}, "8 1 1 8 Alice, Blinds: $100 - $200, Good Luck!"},
         {Field(8, "", 'i', 0, 3, 5000), {0.1f, 0.2f, 0.7f}, "8 1 7 8 P1, Blinds: $100 - $200, Good Luck!"},
         {Field(80, "iiiiiiii", 'o'), {}, "80 31 3 8 P1, Blinds: $1,500 - $3,000, Final Table!"},
-        // Balancing sends three of table 1 to table 2.
+        // Balancing sends seats 2 to 5 to table 2.
         {Field(80, "iiiiiiiii", 'o'), {}, "80 31 6 9 P1, Blinds: $1,500 - $3,000, Good Luck!"},
         {Field(8, "iiiooooo", 'o', 2, 8, 250000), {}, "8 3 1 3 P1, Blinds: $250,000 - $500,000, Good Luck!"},
         {Field(200, "iiiiiipp", 'o'), {}, "200 31 3 6 P1, Blinds: $1,500 - $3,000, Final Table!"},
