@@ -21,7 +21,10 @@ class TempFolder {
     std::filesystem::path path_ = mkdtemp(pattern_.data());
 
 public:
-    ~TempFolder() { std::filesystem::remove_all(path_); }
+    ~TempFolder() {
+        std::error_code ec;  // a destructor must not throw
+        std::filesystem::remove_all(path_, ec);
+    }
     std::string Folder() const { return (path_ / "").string(); }  // as AppFolder is held
     std::string File(const std::string& name) const { return (path_ / name).string(); }
 };
