@@ -60,7 +60,8 @@ TEST_F(RosterTest, LoadSetsUpTheTableAndDealsAtOnce) {
         // Balancing sends seats 2 to 5 to table 2.
         {Field(80, "iiiiiiiii", 'o'), {}, "80 31 6 9 P1, Blinds: $1,500 - $3,000, Good Luck!"},
         {Field(8, "iiiooooo", 'o', 2, 8, 250000), {}, "8 3 1 3 P1, Blinds: $250,000 - $500,000, Good Luck!"},
-        {Field(200, "iiiiiipp", 'o'), {}, "200 31 3 6 P1, Blinds: $1,500 - $3,000, Final Table!"},
+        // Eight left by places, eleven with chips: balancing sends seats 2 and 3 to table 2.
+        {Field(200, "iiiiiiiippp", 'o'), {}, "200 31 4 8 P1, Blinds: $1,500 - $3,000, Final Table!"},
         {Field(8, "iizopiii", 'i'), {}, "8 31 5 6 P1, Blinds: $1,500 - $3,000, Good Luck!"}};
     WriteAll(dir.File("gamedata.dat"), RosterText(1000, 0, 5, 700, FieldLines(100)));
     for (const auto& [file, draws, outcome] : cases) {
@@ -266,30 +267,25 @@ protected:
     }
 };
 
-// The game in play is a slow game of 8 by Ann, seven hands in, its file named, a hand running.
+// The game in play is a slow game of 8 by Ann, some hands in, its file named, a hand running.
 TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
+    using A = MsgAnswer;
     const char *const kStart = "Start New Game?", *const kSave = "Save Existing Game?";
     const struct {
+        int hands;
         bool unsaved, ended, named;
         std::vector<MsgAnswer> answers;
         bool cancelDialog;
         std::vector<std::string> messages;
         bool started, saved;
     } cases[] = {
-        {true, false, true, {MsgAnswer::No}, false, {kStart}, false, false},
-        {true, false, true, {MsgAnswer::Cancel}, false, {kStart}, false, false},
-        {true, false, true, {MsgAnswer::Yes, MsgAnswer::No}, true, {kStart, kSave}, false, false},
-        {true, false, true, {MsgAnswer::Yes, MsgAnswer::Yes}, false, {kStart, kSave}, true, true},
-        {false, false, true, {MsgAnswer::Yes}, false, {kStart}, true, false},
-        {true,
-         false,
-         false,
-         {MsgAnswer::Yes, MsgAnswer::Yes},
-         false,
-         {kStart, kSave, kNotSaved},
-         true,
-         false},
-        {true, true, true, {}, false, {}, true, false},
+        {1, true, false, true, {A::No}, false, {kStart}, false, false},
+        {7, true, false, true, {A::Cancel}, false, {kStart}, false, false},
+        {7, true, false, true, {A::Yes, A::No}, true, {kStart, kSave}, false, false},
+        {7, true, false, true, {A::Yes, A::Yes}, false, {kStart, kSave}, true, true},
+        {7, false, false, true, {A::Yes}, false, {kStart}, true, false},
+        {7, true, false, false, {A::Yes, A::Yes}, false, {kStart, kSave, kNotSaved}, true, false},
+        {7, true, true, true, {}, false, {}, true, false},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message()
@@ -300,7 +296,7 @@ TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
         std::tie(g.GameEnded, g.SavedGamePath) = std::make_tuple(true, "");
         g.rnd.Script(LoadDraws({0.1f, 0.2f, 0.3f}));
         g.mnuNew_Click();
-        std::tie(g.HandsPlayed, g.GameUnsaved, g.GameEnded) = std::make_tuple(7, c.unsaved, c.ended);
+        std::tie(g.HandsPlayed, g.GameUnsaved, g.GameEnded) = std::make_tuple(c.hands, c.unsaved, c.ended);
         g.SavedGamePath = c.named ? dir.File("current.sgf") : "";
         g.StopHandTimers();
         g.EnableTimer(TimerBetTurn);
@@ -326,7 +322,7 @@ TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
                                   int{g.GameSpeed}, g.view.mnuSlowSpeed.checked,
                                   g.view.timer[TimerBetHole].interval, g.GameEnded),
                   c.started ? std::make_tuple("Player 1", "Player 1", 80, 1, 1, false, 800, false)
-                            : std::make_tuple("Ann", "Ann", 8, 7, 3, true, 1600, c.ended));
+                            : std::make_tuple("Ann", "Ann", 8, c.hands, 3, true, 1600, c.ended));
         EXPECT_EQ(g.SavedGamePath, c.started || !c.named ? "" : dir.File("current.sgf"));
         EXPECT_EQ(g.RunningTimer(), c.started ? TimerDealHole : TimerBetTurn);
         if (c.started) ExpectDrawsUsed(g);
