@@ -216,7 +216,7 @@ TEST_F(RosterTest, CancelsAndFailedSavesTellTheUserAndKeepThePathAndTheFlag) {
 TEST_F(RosterTest, FinishedGameOpensToItsFinalStateAndDealsNothing) {
     const std::tuple<std::string, bool, int, const char*> cases[] = {
         // file, won, user's place, message
-        {Field(8, "oooiiooo", 'o', 40), false, 8, "You Finished 8th."},  // the user went out; two play on
+        {Field(8, "oiiooooo", 'o', 40), false, 8, "You Finished 8th."},  // the user went out; two play on
         {Field(8, "iooooooo", 'o', 40), true, 0, "You won it."},
         {Field(8, "zzzzzzzz", 'z', 40), false, 0, "No hand can be dealt from it."}};
     for (const auto& [file, won, place, detail] : cases) {
