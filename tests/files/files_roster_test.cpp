@@ -1,8 +1,8 @@
-// LoadRoster, SaveGame and the File menu's Open, Save and Save As.
+// LoadRoster, SaveGame, the File menu's New, Open, Save and Save As, and the
+// plain functions behind frmNewGame.
 #include <gtest/gtest.h>
 
-#include <random>
-
+#include "files/new_game.h"
 #include "tests/files/files_test_util.h"
 
 namespace holdem::test {
@@ -10,302 +10,348 @@ namespace {
 
 const char* const kNotOpened = "Saved game not opened.";
 const char* const kNotSaved = "There was an error saving the game.";
-
-using RosterTest = FileTest;
-
-TEST_F(RosterTest, NewGameDropsTheFirstHeaderItemAndReadsOnlyTheChosenField) {
-    WriteAll(dir.File("gamedata.dat"), RosterText(1000, 0, 5, 700, FieldLines(100)));
-    g.TournamentSize = 80;
-    g.SeatName[1] = "Alice";
-    // Three button draws; only the last counts: 0.5 * 7 rounds to 4, seat 5.
-    g.rnd.Script(LoadDraws({0.99f, 0.0f, 0.5f}));
-    g.LoadRoster();
-    ExpectDrawsUsed(g);
-    EXPECT_EQ(std::tie(g.TournamentSize, g.RosterName[80], g.RosterName[81], g.RosterBank[81]),
-              std::make_tuple(int16_t{80}, std::string("Player No. 80"), std::string(), 0));
-    EXPECT_EQ(std::tie(g.RosterName[1], g.SeatName[1], g.view.lblName[1].text),
-              std::make_tuple("Alice", "Alice", "Alice"));
-    EXPECT_EQ(g.view.lblBlind.text, "Blinds: $100 - $200");
-    EXPECT_TRUE(g.view.lblGoodLuck.visible);
-    EXPECT_EQ(g.view.lblGoodLuck.text, "Good Luck!");
-    EXPECT_EQ(g.NextFinishPlace, 80);
-    EXPECT_FALSE(g.GameUnsaved);
-    // The first hand is dealt at once and moves the button on from the draw.
-    EXPECT_EQ(std::tie(g.HandsPlayed, g.ButtonSeat, g.SmallBlind), std::make_tuple(1, 6, 100));
-    EXPECT_EQ(g.RunningTimer(), TimerDealHole);
-}
-
-TEST_F(RosterTest, ButtonDrawRoundsHalvesToTheEvenSeatAndCoversBothEnds) {
-    // x * 7 lands exactly on 0.5, 1.5 and 2.5 for the middle floats.
-    const std::pair<float, int> cases[] = {{0.0f, 1},           {0x1.24924ap-4f, 1}, {0x1.b6db6ep-3f, 3},
-                                           {0x1.6db6dcp-2f, 3}, {0.5f, 5},           {0.99999994f, 8}};
-    WriteAll(dir.File("gamedata.dat"), RosterText(8, 0, 0, 0, FieldLines(8)));
-    for (const auto& [draw, drawnSeat] : cases) {
-        g.TournamentSize = 8;
-        g.rnd.Script(LoadDraws({0.3f, 0.7f, draw}));
-        g.LoadRoster();
-        ExpectDrawsUsed(g);
-        EXPECT_EQ(g.ButtonSeat, NextSeat(drawnSeat)) << draw;
-    }
-}
-
-TEST_F(RosterTest, SavedGameWithNoHandPlayedDrawsTheButtonResetsTheBlindAndKeepsItsName) {
-    auto lines = FieldLines(8);
-    lines[0] = PlayerLine(1, "Saved Name", 10000, 0, 1);
-    g.SeatName[1] = "Last Entered";
-    Open(RosterText(8, 0, 3, 5000, lines), LoadDraws({0.1f, 0.2f, 0x1.6db6dcp-2f}));
-    ExpectDrawsUsed(g);
-    EXPECT_TRUE(p.messages.empty());
-    EXPECT_EQ(std::tie(g.SmallBlind, g.ButtonSeat, g.SeatName[1]), std::make_tuple(100, 4, "Saved Name"));
-}
+const float kHalf = 0x1.6db6dcp-2f, kOneAndAHalf = 0x1.b6db6ep-3f;  // times 7: exactly 2.5 and 1.5
 
 // One letter per position, the rest as `rest`: i in, z in with no chips, o out,
 // p placed yet holding chips. Places go out from the size down.
-std::string Field(int size, std::string kinds, char rest) {
+std::string Field(int size, std::string kinds, char rest, int hands = 30, int button = 2, int blind = 1500) {
     kinds.resize(size, rest);
     std::vector<std::string> lines;
-    int place = size;
-    for (int p = 1; p <= size; ++p) {
+    for (int p = 1, place = size; p <= size; ++p) {
         const char k = kinds[p - 1];
         lines.push_back(PlayerLine(p, "P" + std::to_string(p), k == 'i' || k == 'p' ? 10000 : 0,
                                    k == 'o' || k == 'p' ? place-- : 0, p));
     }
-    return RosterText(size, 30, 1, 200, lines);
+    return RosterText(size, hands, button, blind, lines);
 }
 
-TEST_F(RosterTest, PlayersLeftAndTheFinalTableComeFromPlacesNotChips) {
-    const struct {
-        int size;
-        const char* kinds;
-        char rest;
-        int left;
-        const char* caption;
-    } cases[] = {
-        {80, "iiiiiiii", 'o', 8, "Final Table!"}, {80, "iiiiioooiiii", 'o', 9, "Good Luck!"},
-        {8, "iiiooooo", 'o', 3, "Good Luck!"},    {200, "iiiiiiiipp", 'o', 8, "Final Table!"},
-        {8, "iizopiii", 'i', 6, "Good Luck!"},
-    };
-    for (const auto& c : cases) {
-        Open(Field(c.size, c.kinds, c.rest), LoadDraws());
-        EXPECT_TRUE(p.messages.empty());
-        EXPECT_EQ(std::tie(g.NextFinishPlace, g.view.lblGoodLuck.text), std::make_tuple(c.left, c.caption))
-            << c.size << " " << c.kinds;
-        EXPECT_EQ(g.view.lblBlind.text, "Blinds: $200 - $400");
+// What a finished game's open hides: every element of a hand and of the table's middle.
+std::vector<Element*> HandElements(View& v) {
+    std::vector<Element*> all = {&v.cmdDeal,     &v.cmdStandings, &v.cmdFloor,   &v.lblPot,
+                                 &v.lblPotLabel, &v.lblBlind,     &v.lblGoodLuck};
+    for (int s = 1; s <= kSeats; ++s)
+        all.insert(all.end(), {&v.lblBet[s], &v.lblPaid[s], &v.iArrow[s], &v.iButton[s], &v.lblPCardIndex[s],
+                               &v.lblPCardValue[s]});
+    for (int c = 1; c <= 21; ++c) all.push_back(&v.icard[c]);
+    for (int i = 1; i <= 4; ++i) all.push_back(&v.cmdPlay[i]);
+    return all;
+}
+
+// The table as a load leaves it: size, hands, button, players left, seat 1's name, blinds, greeting.
+std::string Outcome(const Game& g) {
+    return std::to_string(g.TournamentSize) + " " + std::to_string(g.HandsPlayed) + " " +
+           std::to_string(g.ButtonSeat) + " " + std::to_string(g.NextFinishPlace) + " " + g.SeatName[1] +
+           ", " + g.view.lblBlind.text + ", " + g.view.lblGoodLuck.text;
+}
+
+using RosterTest = FileTest;
+
+// A new game reads gamedata.dat in the size chosen; StartHand moves the button on from the last of the
+// three draws. An opened game keeps its own name for seat 1.
+TEST_F(RosterTest, LoadSetsUpTheTableAndDealsAtOnce) {
+    const std::tuple<std::string, std::vector<float>, const char*> cases[] = {
+        // saved game, draws, outcome
+        {"", {0.99f, 0.0f, 0.7f}, "80 1 7 80 Alice, Blinds: $100 - $200, Good Luck!"},
+        {"", {0.3f, 0.9f, kHalf}, "8 1 4 8 Alice, Blinds: $100 - $200, Good Luck!"},
+        {"", {0.5f, 0.7f, kOneAndAHalf}, "8 1 4 8 Alice, Blinds: $100 - $200, Good Luck!"},
+        {"", {0.0f, 0.0f, 0.99999994f}, "8 1 1 8 Alice, Blinds: $100 - $200, Good Luck!"},
+        {Field(8, "", 'i', 0, 3, 5000), {0.1f, 0.2f, 0.7f}, "8 1 7 8 P1, Blinds: $100 - $200, Good Luck!"},
+        {Field(80, "iiiiiiii", 'o'), {}, "80 31 3 8 P1, Blinds: $1,500 - $3,000, Final Table!"},
+        // Balancing sends seats 2 to 5 to table 2.
+        {Field(80, "iiiiiiiii", 'o'), {}, "80 31 6 9 P1, Blinds: $1,500 - $3,000, Good Luck!"},
+        {Field(8, "iiiooooo", 'o', 2, 8, 250000), {}, "8 3 1 3 P1, Blinds: $250,000 - $500,000, Good Luck!"},
+        // Eight left by places, eleven with chips: balancing sends seats 2 and 3 to table 2.
+        {Field(200, "iiiiiiiippp", 'o'), {}, "200 31 4 8 P1, Blinds: $1,500 - $3,000, Final Table!"},
+        {Field(8, "iizopiii", 'i'), {}, "8 31 5 6 P1, Blinds: $1,500 - $3,000, Good Luck!"}};
+    WriteAll(dir.File("gamedata.dat"), RosterText(1000, 0, 5, 700, FieldLines(100)));
+    for (const auto& [file, draws, outcome] : cases) {
+        SCOPED_TRACE(outcome);
+        ScriptedPlatform p2;
+        Game g2(p2);
+        std::tie(g2.AppFolder, g2.SeatName[1], g2.UserFinishPlace) =
+            std::make_tuple(dir.Folder(), "Alice", 99);
+        g2.TournamentSize = static_cast<int16_t>(file.empty() ? std::stoi(outcome) : 1000);
+        g2.GameUnsaved = g2.view.picTableMoney.visible = true;
+        std::tie(g2.RosterTag[201], g2.RosterName[201], g2.RosterBank[201], g2.RosterPlace[201],
+                 g2.RosterNumber[201]) = std::make_tuple(77, "old", 5, 4, 201);
+        if (!file.empty()) WriteAll(g2.SavedGamePath = dir.File("game.sgf"), file);
+        g2.rnd.Script(LoadDraws(draws));
+        g2.LoadRoster();
+        ExpectDrawsUsed(g2);
+        EXPECT_EQ(Outcome(g2), outcome);
+        const int size = g2.TournamentSize;
+        EXPECT_EQ(
+            std::make_tuple(g2.RosterName[1], g2.view.lblName[1].text, g2.SeatName[8],
+                            g2.RosterName[size].empty(), g2.RosterName[size + 1], int{g2.UserFinishPlace}),
+            std::make_tuple(g2.SeatName[1], g2.SeatName[1], g2.RosterName[8], false, "", 0));
+        EXPECT_EQ(std::tie(g2.RosterTag[201], g2.RosterName[201], g2.RosterBank[201], g2.RosterPlace[201],
+                           g2.RosterNumber[201]),
+                  std::make_tuple(77, "", 0, 0, 0));
+        EXPECT_TRUE(p2.messages.empty() && g2.view.lblGoodLuck.visible && !g2.view.picTableMoney.visible &&
+                    !g2.GameUnsaved && g2.RunningTimer() == TimerDealHole);
     }
 }
 
-TEST_F(RosterTest, SaveWritesTheHeaderThenOneLinePerPositionAndOpensBackWhole) {
+TEST_F(RosterTest, SaveWritesEveryFieldInItsPlaceAndOpensBackWhole) {
     FillRoster(g, 8);
-    g.RosterName[2] = "Smith, John";
-    g.RosterName[3] = "  Blank Ends  ";
-    g.RosterName[4] = "Say \"Hi\"";
-    g.RosterTag[5] = -7;
-    g.RosterBank[6] = 0;
-    g.RosterPlace[6] = 8;
-    g.HandsPlayed = 14;
-    g.ButtonSeat = 3;
-    g.SmallBlind = 400;
-    g.GameUnsaved = true;
-    p.savePaths.push_back(dir.File("mine"));
+    for (int pos = 1; pos <= 8; ++pos)
+        std::tie(g.RosterTag[pos], g.RosterBank[pos], g.RosterNumber[pos]) =
+            std::make_tuple(100 + pos, 9000 + 100 * pos, pos == 1 ? 1 : 20 + pos);
+    std::tie(g.RosterName[2], g.RosterName[3], g.RosterName[4]) =
+        std::make_tuple("Smith, John", "  Blank Ends  ", "Say \"Hi\"");
+    std::tie(g.RosterTag[5], g.RosterBank[6], g.RosterPlace[6]) = std::make_tuple(-7, 0, 8);
+    std::tie(g.HandsPlayed, g.ButtonSeat, g.SmallBlind, g.GameUnsaved) = std::make_tuple(14, 3, 400, true);
+    p.savePaths = {dir.File("mine"), dir.File("new.sgf")};
     g.mnuSave_Click();
-    ASSERT_EQ(p.saveDialogs.size(), 1u);
-    const FileDialogRequest& asked = p.saveDialogs[0];
-    EXPECT_EQ(std::tie(asked.title, asked.filter, asked.folder),
-              std::make_tuple("Save Game As", "Saved Game Files (*.sgf)|*.sgf", dir.Folder()));
-    EXPECT_TRUE(p.messages.empty());
-    EXPECT_FALSE(g.GameUnsaved);
-    EXPECT_EQ(g.SavedGamePath, dir.File("mine.sgf"));
+    EXPECT_EQ(std::make_tuple(p.messages.size(), g.SavedGamePath, g.GameUnsaved),
+              std::make_tuple(0u, dir.File("mine.sgf"), false));
+    const std::string text = ReadAll(dir.File("mine.sgf"));
     EXPECT_EQ(
-        ReadAll(dir.File("mine.sgf")),
-        "8,14,3,400\r\n1,\"The User\",10000,0,1\r\n2,\"Smith, John\",10000,0,2\r\n"
-        "3,\"  Blank Ends  \",10000,0,3\r\n4,\"Say 'Hi'\",10000,0,4\r\n-7,\"Player No. 5\",10000,0,5\r\n"
-        "6,\"Player No. 6\",0,8,6\r\n7,\"Player No. 7\",10000,0,7\r\n8,\"Player No. 8\",10000,0,8\r\n");
-
-    g.RosterBank[2] = 12000;  // saved again to the same file, without a question
-    g.mnuSave_Click();
-    EXPECT_EQ(p.saveDialogs.size(), 1u);
-
+        text,
+        "8,14,3,400\r\n101,\"The User\",9100,0,1\r\n102,\"Smith, John\",9200,0,22\r\n"
+        "103,\"  Blank Ends  \",9300,0,23\r\n104,\"Say 'Hi'\",9400,0,24\r\n-7,\"Player No. 5\",9500,0,25\r\n"
+        "106,\"Player No. 6\",0,8,26\r\n107,\"Player No. 7\",9700,0,27\r\n108,\"Player No. "
+        "8\",9800,0,28\r\n");
+    g.GameUnsaved = true;
+    g.mnuSave_Click();  // to the same file, without a question
     ScriptedPlatform p2;
     Game g2(p2);
-    p2.openPaths.push_back(dir.File("mine.sgf"));
+    std::tie(g2.AppFolder, p2.openPaths) =
+        std::make_tuple(dir.Folder(), std::deque<std::optional<std::string>>{dir.File("mine.sgf")});
     g2.rnd.Script(LoadDraws());
     g2.mnuOpen_Click();
-    ASSERT_TRUE(p2.messages.empty());
-    EXPECT_EQ(std::tie(p2.openDialogs.at(0).title, p2.openDialogs[0].filter),
-              std::make_tuple("Open Saved Game", "Saved Game Files (*.sgf)|*.sgf"));
     g.RosterName[4] = "Say 'Hi'";
-    for (int pos = 1; pos <= 8; ++pos)
-        EXPECT_EQ(std::tie(g2.RosterTag[pos], g2.RosterName[pos], g2.RosterBank[pos], g2.RosterPlace[pos]),
-                  std::tie(g.RosterTag[pos], g.RosterName[pos], g.RosterBank[pos], g.RosterPlace[pos]));
-    EXPECT_EQ(g2.SavedGamePath, dir.File("mine.sgf"));
+    EXPECT_EQ(std::tie(g2.RosterTag, g2.RosterName, g2.RosterBank, g2.RosterPlace, g2.RosterNumber),
+              std::tie(g.RosterTag, g.RosterName, g.RosterBank, g.RosterPlace, g.RosterNumber));
+    EXPECT_EQ(std::make_tuple(p2.messages.size(), g2.SavedGamePath, int{g2.HandsPlayed}, int{g2.SmallBlind},
+                              int{g2.PlayersLeft}),
+              std::make_tuple(0u, dir.File("mine.sgf"), 15, 400, 7));
+    g.mnuSaveAs_Click();  // the game moves to the new path
+    EXPECT_EQ(std::make_tuple(g.SavedGamePath, ReadAll(dir.File("new.sgf")), g.GameUnsaved),
+              std::make_tuple(dir.File("new.sgf"), text, false));
+    for (const FileDialogRequest& asked : {p.saveDialogs.at(0), p.saveDialogs.at(1), p2.openDialogs.at(0)})
+        EXPECT_EQ(std::tie(asked.filter, asked.folder),
+                  std::make_tuple("Saved Game Files (*.sgf)|*.sgf", dir.Folder()));
+    EXPECT_EQ(p.saveDialogs[1].title + "|" + p2.openDialogs[0].title, "Save Game As|Open Saved Game");
 }
 
-TEST_F(RosterTest, SaveAsMovesTheGameToTheNewPath) {
-    FillRoster(g, 8);
-    g.SavedGamePath = dir.File("old.sgf");
-    p.savePaths.push_back(dir.File("new.sgf"));
-    g.mnuSaveAs_Click();
-    EXPECT_EQ(g.SavedGamePath, dir.File("new.sgf"));
-    EXPECT_TRUE(std::filesystem::exists(dir.File("new.sgf")));
-    EXPECT_FALSE(std::filesystem::exists(dir.File("old.sgf")));
-}
-
-// Timers fire; the user checks when he can, calls up to a large blind, folds to more.
-void PlayHand(Game& g) {
-    for (int steps = 0; steps < 2000; ++steps) {
-        if (TimerId running = g.RunningTimer(); running != kTimerCount)
-            g.FireTimer(running);
-        else if (g.view.cmdPlay[1].visible)
-            g.cmdPlay_Click(g.view.cmdPlay[1].enabled                           ? 1
-                            : g.HighBetValue - g.SeatBet[1] <= 2 * g.SmallBlind ? 2
-                                                                                : 4);
-        else
-            return;
-        std::string why;
-        ASSERT_TRUE(g.state_is_ok(&why)) << why;
-    }
-    FAIL() << "the hand did not end";
-}
-
-TEST_F(RosterTest, GameSavedAfterSomeHandsPlaysOnAsTheGameItCameFrom) {
-    WriteAll(dir.File("gamedata.dat"), ReadAll(ShippedFile("gamedata.dat")));
-    g.rnd.SeedDeterministic(11);
-    p.newGames.push_back({false, "Single Table", "80", "Fast"});
-    p.playerNames.push_back("Robin");
-    g.mnuNew_Click();
-    for (int hand = 1; hand <= 6; ++hand) {
-        PlayHand(g);
-        ASSERT_FALSE(g.GameEnded);
-        if (hand < 6) g.cmdDeal_Click();
-    }
-    ASSERT_TRUE(g.view.mnuSave.enabled && g.GameUnsaved);
-    p.savePaths.push_back(dir.File("robin.sgf"));
-    g.mnuSave_Click();
-    ASSERT_TRUE(p.messages.empty());
-
-    ScriptedPlatform p2;
-    Game g2(p2);
-    p2.openPaths.push_back(dir.File("robin.sgf"));
-    std::mt19937 rng(5);
-    std::vector<float> draws;
-    for (int i = 0; i < 4000; ++i) draws.push_back(static_cast<float>(rng() >> 8) / 16777216.0f);
-    g2.rnd.Script(draws);
-    g2.mnuOpen_Click();
-    ASSERT_TRUE(p2.messages.empty());
-    g.rnd.Script(draws);
-    g.cmdDeal_Click();
-    EXPECT_EQ(g2.SeatName[1], "Robin");
-    EXPECT_EQ(std::tie(g2.HandsPlayed, g2.ButtonSeat, g2.SmallBlind, g2.view.lblBlind.text),
-              std::tie(g.HandsPlayed, g.ButtonSeat, g.SmallBlind, g.view.lblBlind.text));
-    EXPECT_EQ(g2.HandsPlayed, 7);
-    const auto banksBefore = g.RosterBank;
-    PlayHand(g);
-    PlayHand(g2);
-    EXPECT_NE(g.RosterBank, banksBefore);
-    EXPECT_EQ(std::tie(g2.RosterName, g2.RosterBank, g2.RosterPlace, g2.PlayersLeft, g2.SmallBlind),
-              std::tie(g.RosterName, g.RosterBank, g.RosterPlace, g.PlayersLeft, g.SmallBlind));
-    EXPECT_EQ(g2.rnd.Remaining(), g.rnd.Remaining());
-    EXPECT_EQ(g2.rnd.Overdrawn(), 0);
-}
-
-TEST_F(RosterTest, CancelledOpenLeavesTheGameAsItWas) {
-    Open(RosterText(8, 5, 2, 100, FieldLines(8)), LoadDraws());
-    g.SavedGamePath = "/somewhere/else.sgf";
-    g.DisableTimer(TimerDealHole);
-    g.EnableTimer(TimerBetFlop);
-    g.mnuOpen_Click();  // nothing queued: the dialog is cancelled
-    ExpectMessage(kNotOpened, "Game Not Saved");
-    EXPECT_EQ(p.openDialogs.back().folder, dir.Folder());
-    EXPECT_EQ(std::tie(g.SavedGamePath, g.RosterName[2], g.HandsPlayed),
-              std::make_tuple("/somewhere/else.sgf", "Player No. 2", 6));
-    EXPECT_EQ(g.RunningTimer(), TimerBetFlop);
-}
-
-TEST_F(RosterTest, UnreadableOrMissingFilesAreReportedAndDealNothing) {
-    const std::string good = RosterText(8, 5, 2, 100, FieldLines(8));
-    const std::string cases[] = {
-        "",
-        good.substr(0, good.size() / 2),
-        RosterText(50, 5, 2, 100, FieldLines(8)),                   // no such size
-        RosterText(8, 5, 9, 100, FieldLines(8)),                    // button off the table
-        RosterText(8, 5, 2, 0, FieldLines(8)),                      // no blind
-        RosterText(8, -1, 2, 100, FieldLines(8)),                   // hands below zero
-        RosterText(8, 5, 2, 100, FieldLines(8, -100)),              // chips below zero
-        RosterText(8, 5, 2, 100, FieldLines(8, 3000000)),           // more than a Single holds exactly
-        RosterText(8, 5, 2, 100, {PlayerLine(1, "A", 100, 9, 1)}),  // place beyond the field
-        "8,5,2,100\r\n1,\"Unclosed,10000,0,1\r\n",
-        "8,5,2,100\r\n1,\"A\",ten,0,1\r\n",
-        "8,5,2,100\r\n70000,\"A\",10000,0,1\r\n",
+TEST_F(RosterTest, OpenTakesEveryFileWithinTheRangesAndRefusesTheRest) {
+    auto game = [](int hands, int button, int blind, int bank = 10000,
+                   std::string last = "8,\"P8\",10000,0,8") {
+        auto lines = FieldLines(8, bank);
+        lines[7] = last;
+        return RosterText(8, hands, button, blind, lines);
     };
-    for (const std::string& text : cases) {
+    // 16,777,200 chips in all; 2^24 is the most a Single holds exactly.
+    const std::string most = game(5, 2, 100, 2097200, "8,\"P8\",2096800,0,8");
+    const std::string opens[] = {game(5, 2, 100),
+                                 game(32766, 1, 100),
+                                 game(5, 8, 100),
+                                 most,
+                                 game(5, 2, 100, 10000, "8,\"P8\",0,8,8"),
+                                 Field(8, "iioooooo", 'o'),
+                                 Field(8, "ziiiiiii", 'i'),
+                                 RosterText(1000, 5, 2, 100, FieldLines(1000))};
+    const std::string refused[] = {"",
+                                   most.substr(0, most.size() / 2),
+                                   RosterText(1000, 5, 2, 100, FieldLines(999)),
+                                   RosterText(50, 5, 2, 100, FieldLines(50)),
+                                   game(32767, 2, 100),
+                                   game(-1, 2, 100),
+                                   game(5, 0, 100),
+                                   game(5, 9, 100),
+                                   game(5, 2, 0),
+                                   game(5, 2, 100, -100),
+                                   game(5, 2, 100, 2097200, "8,\"P8\",2096900,0,8"),
+                                   game(5, 2, 100, 10000, "8,\"P8\",0,9,8"),
+                                   "8,5,2,100\r\n1,\"Open,10000,0,1\r\n",
+                                   "8,5,2,100\r\n1,\"A\",ten,0,1\r\n",
+                                   "8,5,2,100\r\n70000,\"A\",10000,0,1\r\n"};
+    for (const std::string& text : opens) {
+        SCOPED_TRACE(text.substr(0, 60));
+        Open(text, LoadDraws());
+        EXPECT_EQ(std::make_pair(p.messages.size(), g.RunningTimer()),
+                  std::make_pair(std::size_t{0}, TimerDealHole));
+        ExpectDrawsUsed(g);
+    }
+    for (const std::string& text : refused) {
+        SCOPED_TRACE(text.substr(0, 60));
         Open(text, {});
-        ASSERT_EQ(p.messages.size(), 1u);
-        p.messages[0].text.resize(p.messages[0].text.find('\n'));  // the reason follows
         ExpectMessage(kNotOpened, "Game Not Saved");
-        EXPECT_TRUE(NoHandDealt(g)) << text.substr(0, 40);
         EXPECT_EQ(g.rnd.Overdrawn(), 0);
     }
     p.openPaths.push_back(dir.File("missing.sgf"));
     g.mnuOpen_Click();
-    ASSERT_EQ(p.messages.size(), 1u);
-    p.messages[0].text.resize(p.messages[0].text.find('\n'));
     ExpectMessage(kNotOpened, "Game Not Saved");
-    EXPECT_TRUE(NoHandDealt(g));
 }
 
-TEST_F(RosterTest, CancelledOrFailedSaveKeepsThePathTheFlagAndWhatWasOnDisk) {
-    FillRoster(g, 8);
+TEST_F(RosterTest, CancelsAndFailedSavesTellTheUserAndKeepThePathAndTheFlag) {
+    Open(RosterText(8, 5, 2, 100, FieldLines(8)), LoadDraws());
+    g.StopHandTimers();
+    g.EnableTimer(TimerBetFlop);
     g.GameUnsaved = true;
-    g.mnuSave_Click();  // no path and the dialog cancelled
-    ExpectMessage(kNotSaved, "Game Not Saved");
-    EXPECT_EQ(g.SavedGamePath, "");
-    g.SavedGamePath = dir.File("kept.sgf");
-    g.mnuSaveAs_Click();
-    ExpectMessage(kNotSaved, "Game Not Saved");
-    EXPECT_EQ(g.SavedGamePath, dir.File("kept.sgf"));
-    EXPECT_FALSE(std::filesystem::exists(dir.File("kept.sgf")));
     std::filesystem::create_directory(dir.File("taken.sgf"));
-    for (const char* name : {"no-such-folder/game.sgf", "taken.sgf"}) {
-        g.SavedGamePath = dir.File(name);
-        g.SaveGame();
-        ASSERT_EQ(p.messages.size(), 1u);
-        p.messages[0].text.resize(p.messages[0].text.find('\n'));
-        ExpectMessage(kNotSaved, "Game Not Saved");
+    const std::tuple<void (Game::*)(), const char*, const char*> cases[] = {
+        // path before ("" none), message
+        {&Game::mnuOpen_Click, "else.sgf", kNotOpened},
+        {&Game::mnuSave_Click, "", kNotSaved},
+        {&Game::mnuSaveAs_Click, "kept.sgf", kNotSaved},
+        {&Game::SaveGame, "no-such-folder/game.sgf", kNotSaved},
+        {&Game::mnuSave_Click, "taken.sgf", kNotSaved}};
+    for (const auto& [action, path, message] : cases) {
+        SCOPED_TRACE(path);
+        g.SavedGamePath = *path ? dir.File(path) : "";
+        (g.*action)();
+        ExpectMessage(message, "Game Not Saved");
+        EXPECT_EQ(std::make_tuple(g.SavedGamePath, g.GameUnsaved, int{g.HandsPlayed}, g.RosterName[2],
+                                  g.RunningTimer()),
+                  std::make_tuple(*path ? dir.File(path) : "", true, 6, "Player No. 2", TimerBetFlop));
     }
-    EXPECT_TRUE(std::filesystem::is_directory(dir.File("taken.sgf")));
-    EXPECT_TRUE(g.GameUnsaved);
+    EXPECT_TRUE(!std::filesystem::exists(dir.File("kept.sgf")) &&
+                std::filesystem::is_directory(dir.File("taken.sgf")));
+    EXPECT_EQ(std::make_pair(p.openDialogs.back().folder, p.saveDialogs.size()),
+              std::make_pair(dir.Folder(), std::size_t{2}));
 }
 
 TEST_F(RosterTest, FinishedGameOpensToItsFinalStateAndDealsNothing) {
-    auto field = [](std::vector<std::pair<int, int>> bankPlace) {
-        std::vector<std::string> lines;
-        for (int s = 1; s <= 8; ++s)
-            lines.push_back(
-                PlayerLine(s, "P" + std::to_string(s), bankPlace[s - 1].first, bankPlace[s - 1].second, s));
-        return RosterText(8, 40, 2, 1000, lines);
-    };
+    const std::tuple<std::string, bool, int, const char*> cases[] = {
+        // file, won, user's place, message
+        {Field(8, "oiiooooo", 'o', 40), false, 8, "You Finished 8th."},  // the user went out; two play on
+        {Field(8, "iooooooo", 'o', 40), true, 0, "You won it."},
+        {Field(8, "zzzzzzzz", 'z', 40), false, 0, "No hand can be dealt from it."}};
+    for (const auto& [file, won, place, detail] : cases) {
+        SCOPED_TRACE(detail);
+        g.GameEnded = false;
+        g.GameUnsaved = g.view.picTableMoney.visible = true;
+        for (Element* e : HandElements(g.view)) e->visible = true;
+        Open(file, {});
+        ExpectDrawsUsed(g);
+        const std::string text = "This saved game is already over. " + std::string(detail);
+        EXPECT_EQ(p.messages.at(0).text, text + "\n\nChoose New or Open in the File menu to play on.");
+        ExpectMessage(text, "Game Over", MsgIcon::Information);
+        EXPECT_EQ(std::make_tuple(int{g.HandsPlayed}, int{g.UserFinishPlace}, g.view.picTableMoney.visible,
+                                  g.RunningTimer()),
+                  std::make_tuple(40, place, won, kTimerCount));
+        EXPECT_TRUE(g.GameEnded && !g.GameUnsaved && g.view.mnuSave.enabled && g.view.mnuSaveAs.enabled);
+        for (Element* e : HandElements(g.view)) EXPECT_FALSE(e->visible);
+        for (int s = 1; s <= kSeats; ++s)
+            EXPECT_TRUE(g.view.lblName[s].visible && g.view.lblBankDollarSign[s].visible &&
+                        g.view.lblBank[s].visible);
+    }
+}
+
+TEST(NewGameChoicesTest, MapTheListsToTheGame) {
+    EXPECT_EQ(
+        std::make_tuple(TournamentSizeFor("Single Table", "1,000"), TournamentSizeFor("Single Table", "80"),
+                        TournamentSizeFor("Tournament", "80"), TournamentSizeFor("Tournament", "200"),
+                        TournamentSizeFor("Tournament", "1,000")),
+        std::make_tuple(8, 8, 80, 200, 1000));
+    EXPECT_EQ(std::make_tuple(GameSpeedFor("Fast"), GameSpeedFor("Medium"), GameSpeedFor("Slow")),
+              std::make_tuple(1, 2, 3));
+    EXPECT_EQ(SpeedItemFor(0) + SpeedItemFor(1) + SpeedItemFor(2) + SpeedItemFor(3) + SpeedItemFor(4),
+              "MediumFastMediumSlowMedium");
+    EXPECT_EQ(PlayerNameFor("") + "|" + PlayerNameFor(" ") + "|" + PlayerNameFor("Ann"), "Player 1| |Ann");
+}
+
+class NewGameTest : public FileTest {
+protected:
+    void SetUp() override {
+        FileTest::SetUp();
+        WriteAll(dir.File("gamedata.dat"), RosterText(1000, 0, 1, 100, FieldLines(200)));
+    }
+    // A slow tournament of 80 with no name given, from the draws of a first hand.
+    void Choose(bool cancel) {
+        p.newGames.assign(1, {cancel, "Tournament", "80", "Fast"});
+        p.playerNames.assign(1, "");
+        g.rnd.Script(LoadDraws({0.0f, 0.0f, 0.0f}));
+    }
+};
+
+// The game in play is a slow game of 8 by Ann, some hands in, its file named, a hand running.
+TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
+    using A = MsgAnswer;
+    const char *const kStart = "Start New Game?", *const kSave = "Save Existing Game?";
     const struct {
-        std::string text;
-        bool won;
-        const char* detail;
+        int hands;
+        bool unsaved, ended, named;
+        std::vector<MsgAnswer> answers;
+        bool cancelDialog;
+        std::vector<std::string> messages;
+        bool started, saved;
     } cases[] = {
-        // The user went out third; seats 4 and 5 play on.
-        {field({{0, 3}, {0, 8}, {0, 7}, {40000, 0}, {40000, 0}, {0, 6}, {0, 5}, {0, 4}}), false,
-         "You Finished 3rd."},
-        {field({{80000, 0}, {0, 8}, {0, 7}, {0, 6}, {0, 5}, {0, 4}, {0, 3}, {0, 2}}), true, "You won it."},
+        {1, true, false, true, {A::No}, false, {kStart}, false, false},
+        {7, true, false, true, {A::Cancel}, false, {kStart}, false, false},
+        {7, true, false, true, {A::Yes, A::No}, true, {kStart, kSave}, false, false},
+        {7, true, false, true, {A::Yes, A::Yes}, false, {kStart, kSave}, true, true},
+        {7, false, false, true, {A::Yes}, false, {kStart}, true, false},
+        {7, true, false, false, {A::Yes, A::Yes}, false, {kStart, kSave, kNotSaved}, true, false},
+        {7, true, true, true, {}, false, {}, true, false},
     };
     for (const auto& c : cases) {
-        g.GameEnded = false;
-        Open(c.text, {});
-        ExpectDrawsUsed(g);
-        ASSERT_EQ(p.messages.size(), 1u);
-        EXPECT_NE(p.messages[0].text.find(c.detail), std::string::npos) << p.messages[0].text;
-        EXPECT_EQ(p.messages[0].title, "Game Over");
+        SCOPED_TRACE(testing::Message()
+                     << c.unsaved << c.ended << c.named << " answers " << c.answers.size());
+        std::filesystem::remove(dir.File("current.sgf"));
+        p.newGames.assign(1, {false, "Single Table", "80", "Slow"});
+        p.playerNames.assign(1, "Ann");
+        std::tie(g.GameEnded, g.SavedGamePath) = std::make_tuple(true, "");
+        g.rnd.Script(LoadDraws({0.1f, 0.2f, 0.3f}));
+        g.mnuNew_Click();
+        std::tie(g.HandsPlayed, g.GameUnsaved, g.GameEnded) = std::make_tuple(c.hands, c.unsaved, c.ended);
+        g.SavedGamePath = c.named ? dir.File("current.sgf") : "";
+        g.StopHandTimers();
+        g.EnableTimer(TimerBetTurn);
+        const std::string header = "8,7," + std::to_string(g.ButtonSeat) + "," + std::to_string(g.SmallBlind);
         p.messages.clear();
-        EXPECT_TRUE(g.GameEnded && !g.GameUnsaved && g.view.lblName[1].visible && g.view.mnuSave.enabled);
-        EXPECT_EQ(std::tie(g.HandsPlayed, g.view.picTableMoney.visible, g.view.cmdDeal.visible),
-                  std::make_tuple(40, c.won, false));
-        EXPECT_EQ(g.RunningTimer(), kTimerCount);
+        p.answers.assign(c.answers.begin(), c.answers.end());
+        const std::size_t dialogs = p.newGameSpeeds.size();
+        Choose(c.cancelDialog);
+        g.mnuNew_Click();
+        std::vector<std::string> texts;
+        for (const auto& m : p.messages) {
+            texts.push_back(m.text.substr(0, m.text.find('\n')));
+            if (m.text != kNotSaved) {
+                EXPECT_EQ(std::tie(m.title, m.icon, m.buttons),
+                          std::make_tuple(m.text == kStart ? "Start New Game" : "Save Game",
+                                          MsgIcon::Question, MsgButtons::YesNo));
+            }
+        }
+        EXPECT_EQ(std::make_tuple(texts, g.NewGameCancelled), std::make_tuple(c.messages, c.cancelDialog));
+        EXPECT_EQ(std::vector<int16_t>(p.newGameSpeeds.begin() + dialogs, p.newGameSpeeds.end()),
+                  std::vector<int16_t>(c.started || c.cancelDialog, 3));
+        EXPECT_EQ(std::make_tuple(g.SeatName[1], g.RosterName[1], int{g.TournamentSize}, int{g.HandsPlayed},
+                                  int{g.GameSpeed}, g.view.mnuSlowSpeed.checked,
+                                  g.view.timer[TimerBetHole].interval, g.GameEnded),
+                  c.started ? std::make_tuple("Player 1", "Player 1", 80, 1, 1, false, 800, false)
+                            : std::make_tuple("Ann", "Ann", 8, c.hands, 3, true, 1600, c.ended));
+        EXPECT_EQ(g.SavedGamePath, c.started || !c.named ? "" : dir.File("current.sgf"));
+        EXPECT_EQ(g.RunningTimer(), c.started ? TimerDealHole : TimerBetTurn);
+        if (c.started) ExpectDrawsUsed(g);
+        // A save in mid-hand: the roster of the last finished hand, the header of the running one.
+        const std::string file = ReadAll(dir.File("current.sgf"));
+        EXPECT_EQ(file.substr(0, file.find("\r\n")), c.saved ? header : "");
+        EXPECT_EQ(file.find("\r\n1,\"Ann\",10000,0,1\r\n") != std::string::npos, c.saved);
+    }
+    EXPECT_EQ(
+        std::make_tuple(g.RosterName[80], g.RosterName[81], g.view.lblBlind.text, g.view.lblGoodLuck.text),
+        std::make_tuple("Player No. 80", "", "Blinds: $100 - $200", "Good Luck!"));
+}
+
+TEST_F(NewGameTest, MissingShortOrEmptyGameDataGivesAMessageAndNoGame) {
+    const std::string cases[] = {"", RosterText(1000, 0, 1, 100, FieldLines(50)),
+                                 RosterText(1000, 0, 1, 100, FieldLines(1000, 0))};
+    for (const std::string& text : cases) {
+        WriteAll(dir.File("gamedata.dat"), text);
+        if (text.empty()) std::filesystem::remove(dir.File("gamedata.dat"));
+        Choose(false);
+        std::tie(g.GameUnsaved, g.PlayersLeft, g.view.cmdDeal.visible) = std::make_tuple(true, 5, true);
+        g.mnuNew_Click();
+        EXPECT_EQ(p.messages.at(0).text.substr(0, 65 + dir.Folder().size()),
+                  "The players of a new game could not be read from gamedata.dat in\n" + dir.Folder());
+        ExpectMessage("The players of a new game could not be read from gamedata.dat in", "Game Not Started");
+        // Without its players there is no game: nothing to deal, to save or to ask about at exit.
+        EXPECT_EQ(std::make_tuple(NoHandDealt(g), int{g.TournamentSize}, int{g.HandsPlayed},
+                                  int{g.PlayersLeft}, g.GameUnsaved),
+                  std::make_tuple(true, 0, 0, 0, false));
     }
 }
 

@@ -9,109 +9,110 @@
 namespace holdem::test {
 namespace {
 
-// Reads one item per letter (h 16-bit, l 32-bit, b flag, s string), joined by '|'.
+// Reads one item per letter (h 16-bit, l 32-bit, b flag, s string), joined by
+// '|'; a FileError ends the list with "!" and its reason.
 std::string Items(SeqReader& in, const std::string& kinds) {
     std::string out;
-    for (std::size_t i = 0; i < kinds.size(); ++i)
-        out += (i ? "|" : "") + (kinds[i] == 'h'   ? std::to_string(in.ReadInt16())
-                                 : kinds[i] == 'l' ? std::to_string(in.ReadInt32())
-                                 : kinds[i] == 'b' ? std::string(in.ReadBool() ? "T" : "F")
-                                                   : in.ReadString());
+    try {
+        for (char k : kinds)
+            out += (out.empty() ? "" : "|") + (k == 'h'   ? std::to_string(in.ReadInt16())
+                                               : k == 'l' ? std::to_string(in.ReadInt32())
+                                               : k == 'b' ? std::string(in.ReadBool() ? "T" : "F")
+                                                          : in.ReadString());
+    } catch (const FileError& e) {
+        out += (out.empty() ? "!" : "|!") + std::string(e.what());
+    }
     return out;
 }
 
-TEST(SeqTextTest, ItemsByPositionAcrossCommasLineEndsAndBlanks) {
-    auto in =
-        SeqReader::FromText("  12,\"a, b\" ,#TRUE#\r\n-7,  unquoted text  ,#false#\n\n\"\",2147483647\r\n");
-    EXPECT_EQ(Items(in, "hsblsbsl"), "12|a, b|T|-7|unquoted text|F||2147483647");
-    EXPECT_TRUE(in.AtEnd());
-    EXPECT_THROW(in.ReadInt16(), FileError);
-}
-
-TEST(SeqTextTest, EveryBadItemIsAFileError) {
-    const std::pair<const char*, std::vector<const char*>> cases[] = {
-        {"h", {"32768", "-32769", "12x", "1.5", "", ",", "\"12\"", "--1", "+-1"}},
-        {"l", {"2147483648", "-2147483649", "99999999999999999999999", "1e3", "-"}},
-        {"b", {"TRUE", "1", "\"#TRUE#\""}},
-        {"s", {"\"open", "\"open\r\n\"", "\"a\"b,", "   \r\n "}}};
-    for (const auto& [kind, texts] : cases)
-        for (const char* text : texts) {
-            auto in = SeqReader::FromText(text);
-            EXPECT_THROW(Items(in, kind), FileError) << kind << " " << text;
-        }
+TEST(SeqTextTest, ReaderTakesItemsByPosition) {
+    const struct {
+        const char *text, *kinds, *items;
+    } cases[] = {
+        {"  12,\"a, b\" ,#TRUE#\r\n-7,  bare text  ,#false#\n\n\"\",+5\r3", "hsbhsbshh",
+         "12|a, b|T|-7|bare text|F||5|3"},
+        {"32767,-32768,2147483647,-2147483648", "hhll", "32767|-32768|2147483647|-2147483648"},
+        {"1,2", "hhh", "1|2|!(text): line 1: the file ends early"},
+        {"1\r\n\r\n   \r\n", "hh", "1|!(text): line 4: the file ends early"},
+        {"32768", "h", "!(text): line 1: the number is too large for a 16-bit item"},
+        {"-32769", "h", "!(text): line 1: the number is too large for a 16-bit item"},
+        {"2147483648", "l", "!(text): line 1: the number is too large for a 32-bit item"},
+        {"-2147483649", "l", "!(text): line 1: the number is too large for a 32-bit item"},
+        {"99999999999999999999", "l", "!(text): line 1: the number is too large for a 32-bit item"},
+        {"1\n12x", "hh", "1|!(text): line 2: a number is expected for a 16-bit item"},
+        {"\"12\"", "h", "!(text): line 1: a number is expected for a 16-bit item"},
+        {",", "l", "!(text): line 1: a number is expected for a 32-bit item"},
+        {"1.5", "h", "!(text): line 1: a number is expected for a 16-bit item"},
+        {"--1", "h", "!(text): line 1: a number is expected for a 16-bit item"},
+        {"TRUE", "b", "!(text): line 1: #TRUE# or #FALSE# is expected"},
+        {"xTRUE#", "b", "!(text): line 1: #TRUE# or #FALSE# is expected"},
+        {"\"#TRUE#\"", "b", "!(text): line 1: #TRUE# or #FALSE# is expected"},
+        {"\"open", "s", "!(text): line 1: a quoted string is not closed"},
+        {"\"open\r\n\"", "s", "!(text): line 1: a quoted string is not closed"},
+        {"\"a\"b,", "s", "!(text): line 1: text follows a quoted string"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text);
+        auto in = SeqReader::FromText(c.text);
+        EXPECT_EQ(Items(in, c.kinds), c.items);
+    }
+    auto rest = SeqReader::FromText("1 ,\r\n x \r\n \t");
+    EXPECT_EQ(Items(rest, "h"), "1");
+    EXPECT_FALSE(rest.AtEnd());
+    EXPECT_EQ(Items(rest, "s"), "x");
+    EXPECT_TRUE(rest.AtEnd());
     EXPECT_THROW(SeqReader("/no/such/folder/file.dat"), FileError);
+    EXPECT_THROW(SeqReader(""), FileError);
 }
 
-TEST(SeqTextTest, WriterRoundTripsThroughTheReader) {
+TEST(SeqTextTest, WriterRoundTripsAndReplacesTheFileWholeOrNotAtAll) {
     TempFolder dir;
     const std::string path = dir.File("round.dat");
-    SeqWriter(path)
-        .Int(-32768)
-        .Str("Smith, John")
-        .Int(2147483647)
-        .Bool(true)
-        .EndLine()
-        .Str("  padded  ")
-        .Bool(false)
-        .Str("")
-        .EndLine()
-        .Commit();
-    EXPECT_EQ(ReadAll(path), "-32768,\"Smith, John\",2147483647,#TRUE#\r\n\"  padded  \",#FALSE#,\"\"\r\n");
-    SeqReader in(path);
-    EXPECT_EQ(Items(in, "hslbsbs"), "-32768|Smith, John|2147483647|T|  padded  |F|");
-    EXPECT_TRUE(in.AtEnd());
-    EXPECT_EQ(QuoteSafe("A \"B\"\r\nC"), "A 'B'  C");
-}
-
-TEST(SeqTextTest, CommitReplacesWholeOrLeavesTheOldFileAndNoTemporary) {
-    TempFolder dir;
-    const std::string path = dir.File("keep.dat");
     WriteAll(path, "old\r\n");
-    SeqWriter(path).Int(1).EndLine().Commit();
-    EXPECT_EQ(ReadAll(path), "1\r\n");
+    SeqWriter out(path);
+    out.Int(-32768).Str("Smith, John").Int(2147483647).Bool(true).EndLine();
+    out.Str("  padded  ").Bool(false).Str("").EndLine().Commit();
+    EXPECT_EQ(ReadAll(path), "-32768,\"Smith, John\",2147483647,#TRUE#\r\n\"  padded  \",#FALSE#,\"\"\r\n");
+    WriteAll(dir.File("marked.dat"), "\xEF\xBB\xBF" + ReadAll(path));
+    for (const std::string& file : {path, dir.File("marked.dat")}) {
+        SeqReader in(file);
+        EXPECT_EQ(Items(in, "hslbsbs"), "-32768|Smith, John|2147483647|T|  padded  |F|") << file;
+        EXPECT_TRUE(in.AtEnd());
+    }
+    EXPECT_EQ(QuoteSafe("A \"B\"\r\nC"), "A 'B'  C");
+
     std::filesystem::create_directory(dir.File("folder.dat"));
-    for (const char* target : {"missing/x.dat", "folder.dat"})
-        EXPECT_THROW(SeqWriter(dir.File(target)).Int(1).EndLine().Commit(), FileError) << target;
-    const auto entries = std::filesystem::directory_iterator(dir.File(""));
-    EXPECT_EQ(std::distance(begin(entries), end(entries)), 2);  // keep.dat and folder.dat
-    EXPECT_EQ(ReadAll(path), "1\r\n");
+    for (const char* target : {"missing/x.dat", "folder.dat", ""})
+        EXPECT_THROW(SeqWriter(*target ? dir.File(target) : "").Int(1).EndLine().Commit(), FileError)
+            << target;
+    const auto entries = std::filesystem::directory_iterator(dir.Folder());
+    EXPECT_EQ(std::distance(begin(entries), end(entries)), 3);  // no temporary left behind
 }
 
-TEST(ShippedDataTest, GameDataHoldsAThousandDistinctPlayersReadyForANewGame) {
-    const std::string text = ReadAll(ShippedFile("gamedata.dat"));
-    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1001);
-    for (std::size_t i = text.find('\n'); i != std::string::npos; i = text.find('\n', i + 1))
-        ASSERT_EQ(text[i - 1], '\r') << "at byte " << i;
+// gamedata.dat: 1,000 players of distinct names and numbers ready for a new game,
+// the user first; settings.dft: medium, sound on, tips on; one tip to a line.
+TEST(ShippedDataTest, GameDataSettingsAndTipsAreReadyForANewGame) {
     SeqReader in(ShippedFile("gamedata.dat"));
-    in.ReadInt16();
-    EXPECT_EQ(in.ReadInt16(), 0);
-    in.ReadInt16();
-    in.ReadInt32();
-    std::set<std::string> names;
-    std::set<int> numbers;
+    const std::string header = Items(in, "hhhl");
+    std::set<std::string> names, numbers;
     for (int p = 1; p <= kRoster; ++p) {
-        in.ReadInt16();
-        const std::string name = in.ReadString();
-        EXPECT_EQ(Items(in, "lh"), "10000|0") << p;
-        const int number = in.ReadInt16();
-        EXPECT_EQ(number == 1, p == 1) << p;
-        EXPECT_TRUE(!name.empty() && name.size() <= 20 && name.find('"') == std::string::npos) << name;
-        names.insert(name);
+        const std::string line = Items(in, "hslhh"), number = line.substr(line.rfind('|') + 1);
+        const std::size_t start = line.find('|') + 1, end = line.find("|10000|0|");
+        EXPECT_TRUE(end != std::string::npos && end - start <= 20 && line.find('"') == std::string::npos &&
+                    (number == "1") == (p == 1))
+            << line;
+        names.insert(line.substr(start, end - start));
         numbers.insert(number);
     }
-    EXPECT_TRUE(in.AtEnd());
-    EXPECT_EQ(names.size(), 1000u);
-    EXPECT_EQ(numbers.size(), 1000u);
-}
-
-TEST(ShippedDataTest, TipsAreOneToALine) {
-    const std::string text = ReadAll(ShippedFile("TIPOFDAY.TXT"));
-    int tips = 0;
-    std::size_t start = 0;
-    for (std::size_t end; (end = text.find("\r\n", start)) != std::string::npos; start = end + 2, ++tips)
-        EXPECT_GT(end - start, 20u) << "tip " << tips + 1 << " is too short";
-    EXPECT_EQ(start, text.size());
-    EXPECT_GE(tips, 30);
+    EXPECT_EQ(std::make_tuple(header.substr(0, 6), in.AtEnd(), names.size(), numbers.size()),
+              std::make_tuple("1000|0", true, 1000u, 1000u));
+    EXPECT_EQ(ReadAll(ShippedFile("settings.dft")), "2,#TRUE#,#TRUE#\r\n");
+    const std::string tips = ReadAll(ShippedFile("TIPOFDAY.TXT")),
+                      text = ReadAll(ShippedFile("gamedata.dat"));
+    EXPECT_EQ(std::make_tuple(std::count(text.begin(), text.end(), '\r'),
+                              std::count(text.begin(), text.end(), '\n'), tips.find("\r\n\r\n"),
+                              tips.substr(tips.size() - 2)),
+              std::make_tuple(1001, 1001, std::string::npos, "\r\n"));
 }
 
 }  // namespace

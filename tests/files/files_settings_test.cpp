@@ -6,124 +6,95 @@
 namespace holdem::test {
 namespace {
 
-// Deal hole, other deals, betting, hand over; the families must agree.
-std::vector<int> Intervals(const Game& g) {
-    const auto& t = g.view.timer;
-    for (TimerId id : {TimerDealTurn, TimerDealRiver}) EXPECT_EQ(t[id].interval, t[TimerDealFlop].interval);
-    for (TimerId id : {TimerBetFlop, TimerBetTurn, TimerBetRiver})
-        EXPECT_EQ(t[id].interval, t[TimerBetHole].interval);
-    return {t[TimerDealHole].interval, t[TimerDealFlop].interval, t[TimerBetHole].interval,
-            t[TimerHandOver].interval};
+// The nine intervals in the order of the chain, then the checked speed entries
+// as a string of F, M and S.
+std::pair<std::vector<int>, std::string> Speed(const Game& g) {
+    std::vector<int> intervals;
+    for (const TimerState& t : g.view.timer) intervals.push_back(t.interval);
+    const std::string marks = std::string(g.view.mnuFastSpeed.checked ? "F" : "") +
+                              (g.view.mnuMediumSpeed.checked ? "M" : "") +
+                              (g.view.mnuSlowSpeed.checked ? "S" : "");
+    return {intervals, marks};
 }
-
-// The one checked speed entry, 0 if not exactly one.
-int CheckedSpeed(const Game& g) {
-    const bool marks[] = {g.view.mnuFastSpeed.checked, g.view.mnuMediumSpeed.checked,
-                          g.view.mnuSlowSpeed.checked};
-    if (std::count(std::begin(marks), std::end(marks), true) != 1) return 0;
-    return static_cast<int>(std::find(std::begin(marks), std::end(marks), true) - marks) + 1;
-}
+const std::vector<int> kFast = {350, 800, 350, 800, 350, 800, 350, 800, 1000};
+const std::vector<int> kMedium = {450, 1200, 450, 1200, 450, 1200, 450, 1200, 1200};
+const std::vector<int> kSlow = {550, 1600, 550, 1600, 550, 1600, 550, 1600, 1600};
+const std::vector<int> kAsDrawn = {400, 1200, 450, 1200, 450, 1200, 450, 1200, 1500};
 
 using SettingsTest = FileTest;
 
-TEST_F(SettingsTest, SpeedsSetAllNineTimersFromTheTable) {
-    const struct {
-        void (Game::*click)();
-        int speed;
-        std::vector<int> intervals;
-    } speeds[] = {{&Game::mnuFastSpeed_Click, 1, {350, 350, 800, 1000}},
-                  {&Game::mnuSlowSpeed_Click, 3, {550, 550, 1600, 1600}},
-                  {&Game::mnuMediumSpeed_Click, 2, {450, 450, 1200, 1200}}};
-    for (const auto& s : speeds) {
-        g.EnableTimer(TimerBetFlop);
-        (g.*s.click)();
-        EXPECT_EQ(std::make_tuple(Intervals(g), CheckedSpeed(g), int{g.GameSpeed}),
-                  std::make_tuple(s.intervals, s.speed, s.speed));
-        EXPECT_EQ(g.RunningTimer(), TimerBetFlop);  // a running timer keeps running at its new pace
-    }
-}
-
-TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaults) {
+TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
     const struct {
         const char* text;  // nullptr: no file
         int speed;
         bool sound, tips;
+        std::vector<int> intervals;
+        const char *mark, *written;
     } cases[] = {
-        {"1,#TRUE#,#FALSE#\r\n", 1, true, false},
-        {"3,#FALSE#,#TRUE#\n", 3, false, true},
-        {" 2 , #false# , #true#", 2, false, true},
-        {nullptr, 2, true, true},
-        {"", 2, true, true},
-        {"1,#FALSE#", 2, true, true},
-        {"fast,#TRUE#,#TRUE#\r\n", 2, true, true},
-        {"1,-1,0\r\n", 2, true, true},
+        {"1,#TRUE#,#FALSE#\r\n", 1, true, false, kFast, "F", "1,#TRUE#,#FALSE#\r\n"},
+        {"3,#FALSE#,#TRUE#\n", 3, false, true, kSlow, "S", "3,#FALSE#,#TRUE#\r\n"},
+        {" 2 , #false# , #true#", 2, false, true, kMedium, "M", "2,#FALSE#,#TRUE#\r\n"},
         {"\xEF\xBB\xBF"
          "3,#TRUE#,#FALSE#\r\n",
-         3, true, false},
+         3, true, false, kSlow, "S", "3,#TRUE#,#FALSE#\r\n"},
+        // A speed outside 1 to 3 changes no timer and no mark, and is written back as it was.
+        {"0,#FALSE#,#FALSE#\r\n", 0, false, false, kAsDrawn, "M", "0,#FALSE#,#FALSE#\r\n"},
+        {"4,#TRUE#,#TRUE#\r\n", 4, true, true, kAsDrawn, "M", "4,#TRUE#,#TRUE#\r\n"},
+        // A file that cannot be read gives what the menus show before any file.
+        {nullptr, 2, true, true, kMedium, "M", "2,#TRUE#,#TRUE#\r\n"},
+        {"3,#FALSE#", 2, true, true, kMedium, "M", "2,#TRUE#,#TRUE#\r\n"},
+        {"fast,#FALSE#,#FALSE#\r\n", 2, true, true, kMedium, "M", "2,#TRUE#,#TRUE#\r\n"},
+        {"1,-1,0\r\n", 2, true, true, kMedium, "M", "2,#TRUE#,#TRUE#\r\n"},
     };
-    const int betInterval[] = {0, 800, 1200, 1600};
     for (const auto& c : cases) {
+        SCOPED_TRACE(c.text ? c.text : "(no file)");
         ScriptedPlatform p2;
         Game g2(p2);
         g2.AppFolder = dir.Folder();
         std::filesystem::remove(dir.File("settings.dft"));
         if (c.text) WriteAll(dir.File("settings.dft"), c.text);
         g2.ReadSettings();
-        EXPECT_EQ(std::make_tuple(g2.GameSpeed, CheckedSpeed(g2), Intervals(g2)[2], g2.SoundOn,
-                                  g2.view.mnuSound.checked, g2.TipsAtStartup, g2.view.mnuTips.checked),
-                  std::make_tuple(c.speed, c.speed, betInterval[c.speed], c.sound, c.sound, c.tips, c.tips))
-            << (c.text ? c.text : "(no file)");
-        EXPECT_TRUE(p2.messages.empty());
-    }
-}
-
-TEST_F(SettingsTest, SpeedOutsideOneToThreeChangesNothingAndIsWrittenBack) {
-    for (const char* text : {"0,#TRUE#,#TRUE#\r\n", "4,#TRUE#,#TRUE#\r\n"}) {
-        WriteAll(dir.File("settings.dft"), text);
-        ScriptedPlatform p2;
-        Game g2(p2);
-        g2.AppFolder = dir.Folder();
-        g2.ReadSettings();
-        EXPECT_EQ(g2.GameSpeed, text[0] - '0');
-        EXPECT_EQ(CheckedSpeed(g2), 2);
-        EXPECT_EQ(Intervals(g2), (std::vector<int>{400, 450, 1200, 1500}));  // as the form was drawn
+        EXPECT_EQ(std::make_tuple(int{g2.GameSpeed}, g2.SoundOn, g2.view.mnuSound.checked, g2.TipsAtStartup,
+                                  g2.view.mnuTips.checked, Speed(g2)),
+                  std::make_tuple(c.speed, c.sound, c.sound, c.tips, c.tips,
+                                  std::make_pair(c.intervals, std::string(c.mark))));
         g2.WriteSettings();
-        EXPECT_EQ(ReadAll(dir.File("settings.dft")), text);
+        EXPECT_EQ(ReadAll(dir.File("settings.dft")), c.written);
     }
 }
 
-TEST_F(SettingsTest, MenuSwitchesRoundTripThroughTheFile) {
+// Each entry of the Settings menu, one after the other, while a hand's timer runs on.
+TEST_F(SettingsTest, MenuEntriesSetTheTimersTheMarksAndTheFlags) {
     g.ReadSettings();
-    g.mnuSound_Click();
-    for (int i = 0; i < 3; ++i) g.mnuTips_Click();
-    g.mnuSlowSpeed_Click();
-    EXPECT_EQ(std::tie(g.SoundOn, g.view.mnuSound.checked, g.TipsAtStartup, g.view.mnuTips.checked),
-              std::make_tuple(false, false, false, false));
-    g.WriteSettings();
-    EXPECT_EQ(ReadAll(dir.File("settings.dft")), "3,#FALSE#,#FALSE#\r\n");
-    ScriptedPlatform p2;
-    Game next(p2);
-    next.AppFolder = dir.Folder();
-    next.ReadSettings();
-    EXPECT_EQ(std::make_tuple(next.GameSpeed, next.view.mnuSound.checked, next.view.mnuTips.checked),
-              std::make_tuple(3, false, false));
-}
-
-TEST_F(SettingsTest, ShippedSettingsAreMediumSoundOnTipOn) {
-    EXPECT_EQ(ReadAll(ShippedFile("settings.dft")), "2,#TRUE#,#TRUE#\r\n");
+    g.EnableTimer(TimerBetFlop);
+    const std::tuple<void (Game::*)(), std::vector<int>, const char*, bool, bool> steps[] = {
+        {&Game::mnuFastSpeed_Click, kFast, "F", true, true},
+        {&Game::mnuSound_Click, kFast, "F", false, true},
+        {&Game::mnuSlowSpeed_Click, kSlow, "S", false, true},
+        {&Game::mnuTips_Click, kSlow, "S", false, false},
+        {&Game::mnuSound_Click, kSlow, "S", true, false},
+        {&Game::mnuMediumSpeed_Click, kMedium, "M", true, false},
+        {&Game::mnuTips_Click, kMedium, "M", true, true}};
+    for (const auto& [click, intervals, mark, sound, tips] : steps) {
+        (g.*click)();
+        EXPECT_EQ(std::make_tuple(Speed(g), int{g.GameSpeed}, g.RunningTimer()),
+                  std::make_tuple(std::make_pair(intervals, std::string(mark)),
+                                  std::string("FMS").find(mark) + 1, TimerBetFlop));
+        EXPECT_EQ(
+            std::make_tuple(g.SoundOn, g.view.mnuSound.checked, g.TipsAtStartup, g.view.mnuTips.checked),
+            std::make_tuple(sound, sound, tips, tips));
+    }
 }
 
 // A file in the way of AppFolder makes it unwritable, even for root.
-TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolder) {
+TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolderAndStaysThere) {
     WriteAll(dir.File("blocked"), "not a folder");
     g.AppFolder = dir.File("blocked") + "/";
     g.UserDataFolder = dir.File("user/data") + "/";
     g.ReadSettings();
-    EXPECT_EQ(g.GameSpeed, 2);
     g.mnuFastSpeed_Click();
     g.WriteSettings();
     EXPECT_EQ(ReadAll(dir.File("user/data/settings.dft")), "1,#TRUE#,#TRUE#\r\n");
-    // The per-user file is read first and, once there, written there.
     g.AppFolder = dir.Folder();
     WriteAll(dir.File("settings.dft"), "3,#TRUE#,#TRUE#\r\n");
     g.ReadSettings();
@@ -154,48 +125,47 @@ TEST_F(SettingsTest, InstalledCopyWritesOnlyTheUserFolder) {
 }
 
 TEST_F(SettingsTest, StandingsAndFloorWriteTheWholeRosterFirst) {
-    g.StandingsPath = dir.File("stnd.dat");
-    g.mnuStandings_Click();
-    EXPECT_EQ(ReadAll(g.StandingsPath), "0,0,0,0\r\n");
+    g.mnuFloor_Click();  // before any game: the header of zeros
+    EXPECT_EQ(ReadAll(dir.File("stnd.dat")), "0,0,0,0\r\n");
     FillRoster(g, 80);
     g.RosterName[2] = "O\"Neil, Pat";
-    g.RosterBank[80] = 0;
-    g.RosterPlace[80] = 80;
-    g.HandsPlayed = 12;
-    g.ButtonSeat = 6;
-    g.SmallBlind = 200;
+    std::tie(g.RosterTag[80], g.RosterBank[80], g.RosterPlace[80]) = std::make_tuple(-3, 0, 79);
+    std::tie(g.HandsPlayed, g.ButtonSeat, g.SmallBlind) = std::make_tuple(12, 6, 200);
     for (auto click : {&Game::cmdStandings_Click, &Game::mnuStandings_Click, &Game::cmdFloor_Click,
                        &Game::mnuFloor_Click}) {
         std::filesystem::remove(g.StandingsPath);
         (g.*click)();
         const std::string text = ReadAll(g.StandingsPath);
-        EXPECT_EQ(text.substr(0, text.find("\r\n") + 2), "80,12,6,200\r\n");
-        EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 81);
-        EXPECT_NE(text.find("\r\n2,\"O'Neil, Pat\",10000,0,2\r\n"), std::string::npos);
-        EXPECT_NE(text.find("\r\n80,\"Player No. 80\",0,80,80\r\n"), std::string::npos);
+        EXPECT_EQ(std::make_tuple(text.substr(0, text.find("\r\n3,")),
+                                  std::count(text.begin(), text.end(), '\n'), text.substr(text.size() - 30)),
+                  std::make_tuple("80,12,6,200\r\n1,\"The User\",10000,0,1\r\n2,\"O'Neil, Pat\",10000,0,2",
+                                  81, "\r\n-3,\"Player No. 80\",0,79,80\r\n"));
     }
-    EXPECT_EQ(p.standings, std::vector<std::string>(3, g.StandingsPath));
-    EXPECT_EQ(p.floors, std::vector<std::string>(2, g.StandingsPath));
+    EXPECT_EQ(p.standings, std::vector<std::string>(2, dir.File("stnd.dat")));
+    EXPECT_EQ(p.floors, std::vector<std::string>(3, dir.File("stnd.dat")));
     EXPECT_TRUE(p.messages.empty());
 }
 
 TEST_F(SettingsTest, StandingsGoToTheUserFolderWhereAppFolderRefuses) {
     WriteAll(dir.File("blocked"), "not a folder");
     g.AppFolder = dir.File("blocked") + "/";
-    g.StandingsPath = g.AppFolder + "stnd.dat";
     g.UserDataFolder = dir.File("per-user") + "/";
     FillRoster(g, 8);
     g.cmdFloor_Click();
     EXPECT_EQ(g.StandingsPath, g.UserDataFolder + "stnd.dat");
     EXPECT_EQ(p.floors, std::vector<std::string>{g.StandingsPath});
     EXPECT_EQ(ReadAll(g.StandingsPath).substr(0, 11), "8,0,0,0\r\n1,");
-    // Nowhere to write: a message, and the view does not open on an old file.
-    g.UserDataFolder = dir.File("blocked") + "/also/";
-    g.StandingsPath = g.AppFolder + "stnd.dat";
-    g.cmdStandings_Click();
+    // Nowhere to write: a message, and neither view opens on an old file.
+    for (auto [click, title] : {std::make_pair(&Game::cmdStandings_Click, "Standings"),
+                                std::make_pair(&Game::mnuFloor_Click, "View Floor")}) {
+        g.UserDataFolder = dir.File("blocked") + "/also/";
+        g.StandingsPath.clear();
+        (g.*click)();
+        ExpectMessage("The list of players could not be written to " + dir.File("blocked") + "/stnd.dat.",
+                      title);
+    }
     EXPECT_TRUE(p.standings.empty());
-    ASSERT_EQ(p.messages.size(), 1u);
-    EXPECT_EQ(p.messages[0].icon, MsgIcon::Exclamation);
+    EXPECT_EQ(p.floors.size(), 1u);
 }
 
 }  // namespace

@@ -17,20 +17,16 @@
 namespace holdem::test {
 
 class TempFolder {
+    std::string pattern_ = (std::filesystem::temp_directory_path() / "holdem_files_XXXXXX").string();
+    std::filesystem::path path_ = mkdtemp(pattern_.data());
+
 public:
-    TempFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "holdem_files_XXXXXX").string();
-        path_ = mkdtemp(pattern.data());
-    }
     ~TempFolder() {
-        std::error_code ec;
+        std::error_code ec;  // a destructor must not throw
         std::filesystem::remove_all(path_, ec);
     }
     std::string Folder() const { return (path_ / "").string(); }  // as AppFolder is held
     std::string File(const std::string& name) const { return (path_ / name).string(); }
-
-private:
-    std::filesystem::path path_;
 };
 
 inline std::string ReadAll(const std::string& path) {
@@ -61,12 +57,9 @@ inline std::vector<std::string> FieldLines(int size, int bank = 10000) {
 }
 inline void FillRoster(Game& g, int size) {
     g.TournamentSize = static_cast<int16_t>(size);
-    for (int p = 1; p <= size; ++p) {
-        g.RosterTag[p] = g.RosterNumber[p] = static_cast<int16_t>(p);
-        g.RosterName[p] = PlayerName(p);
-        g.RosterBank[p] = 10000;
-        g.RosterPlace[p] = 0;
-    }
+    for (int p = 1; p <= size; ++p)
+        std::tie(g.RosterTag[p], g.RosterNumber[p], g.RosterName[p], g.RosterBank[p], g.RosterPlace[p]) =
+            std::make_tuple(p, p, PlayerName(p), 10000, 0);
 }
 // The given draws, then the 52 of the first hand's shuffle.
 inline std::vector<float> LoadDraws(std::vector<float> first = {}) {
@@ -96,17 +89,19 @@ protected:
         g.rnd.Script(std::move(draws));
         g.mnuOpen_Click();
     }
-    // Exactly one message box, then the record is cleared.
+    // Exactly one message box, then the record is cleared. Only the first line
+    // of the text is pinned: a reason may follow it.
     void ExpectMessage(const std::string& text, const std::string& title, MsgIcon icon = MsgIcon::Exclamation,
                        MsgButtons buttons = MsgButtons::OK) {
         ASSERT_EQ(p.messages.size(), 1u);
         const MessageCall& m = p.messages[0];
-        EXPECT_EQ(std::tie(m.text, m.title, m.icon, m.buttons), std::tie(text, title, icon, buttons));
+        const std::string first = m.text.substr(0, m.text.find('\n'));
+        EXPECT_EQ(std::tie(first, m.title, m.icon, m.buttons), std::tie(text, title, icon, buttons));
         p.messages.clear();
     }
     void ExpectDrawsUsed(const Game& game) {
-        EXPECT_EQ(game.rnd.Remaining(), 0u);
-        EXPECT_EQ(game.rnd.Overdrawn(), 0);
+        EXPECT_EQ(std::make_pair(game.rnd.Remaining(), game.rnd.Overdrawn()),
+                  std::make_pair(std::size_t{0}, 0));
     }
 };
 
