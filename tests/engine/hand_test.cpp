@@ -2,7 +2,6 @@
 // hands through the real timer chain, move by move and dollar by dollar.
 #include <gtest/gtest.h>
 
-#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -123,42 +122,6 @@ TEST(StartHand, ResetsTheSeatsAndTheView) {
     test::ExpectSettled(g);
 }
 
-// The shuffle takes Round(k * r) of the k + 1 cards left, in single
-// precision, halves to even: 51 * 0.5 is 26, 50 * 0.25 is 12, 5 * 0.7f is
-// 3.5 and 4, 49 * 0.3 is 14.7 and 15, 48 * 0.6 is 28.8 and 29.
-TEST(StartHand, TheShuffleAndWhereTheCardsGo) {
-    ScriptedPlatform p;
-    Game g(p);
-    test::SeatTable(g, {10000, 10000, 10000, 0, 10000, 10000, 10000, 10000}, 2);
-    std::vector<float> draws(52, 0.0f);
-    draws[0] = 0.5f, draws[1] = 0.25f, draws[2] = 0.3f, draws[3] = 0.6f, draws[46] = 0.7f;
-    g.rnd.Script(draws);
-    g.StartHand();
-    test::ExpectSettled(g);
-    std::vector<int> pool(52);
-    for (int i = 0; i < 52; ++i) pool[i] = i + 1;
-    const int picks[] = {26, 12, 15, 29};
-    std::string deck, want;
-    for (int i = 0, k = 51; i < 52; ++i, --k) {
-        int j = i < 4 ? picks[i] : i == 46 ? 4 : 0;
-        want += std::to_string(pool[j]) + " ";
-        pool[j] = pool[k];
-        deck += std::to_string(g.Deck[i]) + " ";
-    }
-    EXPECT_EQ(deck, want);
-    // Deck[p - 1] and Deck[p + 7] go to the seat p after the button (3), empty
-    // or not; the board to every seat; faces only for the user and the board.
-    for (int s = 1; s <= kSeats; ++s) {
-        int p0 = (s - 3 + 7) % 8;
-        EXPECT_EQ(g.SeatCards[s][1] * 100 + g.SeatCards[s][2], g.Deck[p0] * 100 + g.Deck[p0 + 8]) << s;
-        for (int k = 3; k <= 7; ++k) EXPECT_EQ(g.SeatCards[s][k], g.Deck[13 + k]) << s;
-        EXPECT_EQ(g.view.icard[s].picture + g.view.icard[s + 8].picture, s == 1 ? g.Deck[5] + g.Deck[13] : 0)
-            << s;
-    }
-    EXPECT_EQ(g.view.icard[1].picture, g.Deck[5]);
-    for (int i = 17; i <= 21; ++i) EXPECT_EQ(g.view.icard[i].picture, g.Deck[i - 1]) << i;
-}
-
 // Fires the running timer; at the user's turn takes the next press ("2", or
 // "3:600" with the dialog's answer). The log has each new label of a bet as
 // "seat:text", "|" at each new street, and the payments at the end.
@@ -258,41 +221,6 @@ TEST(WholeHand, MoveByMove) {
         g.StartHand();
         EXPECT_EQ(Play(g, p, h.presses), h.log);
         EXPECT_EQ(g.rnd.Remaining(), 0u);
-    }
-}
-
-// Seeded hands with small uneven stacks and a user who presses at random:
-// every hand ends, one timer at a time, chips conserved at every step.
-TEST(WholeHand, SeededHandsAlwaysEnd) {
-    std::mt19937 user(20240917);
-    for (int hand = 0; hand < 300; ++hand) {
-        SCOPED_TRACE(hand);
-        ScriptedPlatform p;
-        Game g(p);
-        int32_t banks[8];
-        for (int32_t& bank : banks) bank = static_cast<int32_t>(user() % 8 == 0 ? 0 : 50 * (1 + user() % 60));
-        banks[0] = std::max(banks[0], 1000), banks[1] = std::max(banks[1], 700);
-        test::SeatTable(g, {banks[0], banks[1], banks[2], banks[3], banks[4], banks[5], banks[6], banks[7]},
-                        1 + static_cast<int>(user() % 8));
-        g.view.mnuSound.checked = false;
-        g.rnd.SeedDeterministic(static_cast<uint64_t>(hand));
-        g.StartHand();
-        for (int steps = 0; g.RunningTimer() != TimerHandOver; ++steps) {
-            ASSERT_LT(steps, 1000) << "the hand did not end";
-            if (g.RunningTimer() != kTimerCount) {
-                g.FireTimer(g.RunningTimer());
-            } else {
-                ASSERT_TRUE(g.view.cmdPlay[4].visible) << "no timer and no turn";
-                int index = 1 + static_cast<int>(user() % 4);
-                if (index == 3)
-                    p.betAmounts.push_back(g.HighBetValue - g.SeatBet[1] +
-                                           100 * static_cast<int32_t>(1 + user() % 30));
-                g.cmdPlay_Click(index);
-                p.betAmounts.clear();
-            }
-            std::string why;
-            ASSERT_TRUE(g.state_is_ok(&why)) << why;
-        }
     }
 }
 

@@ -50,8 +50,11 @@ std::string Settle(const std::string& stakes, bool sound = true) {
             out += std::to_string(s) + ":" + Money(paid) + " ";
         }
         if (g.view.iArrow[s].visible) arrows += " " + std::to_string(s);
+        EXPECT_EQ(g.view.icard[s].picture != 0, g.SeatInHand[s] && g.PlayersInHand > 1) << s;
     }
     out += ">" + arrows.substr(std::min<std::size_t>(1, arrows.size()));
+    for (int s = 1; s <= kSeats; ++s)  // the names, only with two or more left
+        if (!g.view.lblBet[s].text.empty()) out += " " + g.view.lblBet[s].text;
     for (const auto& sound : p.sounds) out += " " + sound;
     for (const auto& m : p.messages) {
         out += " | " + m.text;
@@ -67,9 +70,9 @@ std::string Settle(const std::string& stakes, bool sound = true) {
 TEST(SettlePots, Examples) {
     const std::pair<const char*, const char*> rows[] = {
         // A all in with 1,000 and best, B and C 5,000: Layer1 3,000 to A, Layer2 8,000 to B.
-        {"2:1000:AhAd 3:5000:KhKd 4:5000:QhQd", "2:3,000 3:8,000 >2 LOSTHAND"},
+        {"2:1000:AhAd 3:5000:KhKd 4:5000:QhQd", "2:3,000 3:8,000 >2 Aces Kings Queens LOSTHAND"},
         // The uncalled part of B's bet comes back as a payment; C folded after 300.
-        {"2:1000:AhAd 3:5000:KhKd 4:300", "2:2,300 3:4,000 >2 LOSTHAND"},
+        {"2:1000:AhAd 3:5000:KhKd 4:300", "2:2,300 3:4,000 >2 Aces Kings LOSTHAND"},
         // Odd hundreds one by one in finish order: layers of 500, 700, 800, 1,000, 1,100.
         {"2:200:AhKd 3:200:AsKc 6:100", "2:300 3:200 >2 3 LOSTHAND"},
         {"2:200:AhKd 3:200:AsKc 4:200:AdKh 6:100", "2:300 3:200 4:200 >2 3 4 LOSTHAND"},
@@ -77,62 +80,34 @@ TEST(SettlePots, Examples) {
         {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100", "2:400 3:300 4:300 >2 3 4 LOSTHAND"},
         {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100 7:100", "2:400 3:400 4:300 >2 3 4 LOSTHAND"},
         // Seat 3 best, 1 and 2 tied behind: the swap puts 2 first. A side layer is no won hand.
-        {"1:400:AsKc 2:400:AhKd 3:200:QhQd 4:300", "1:200 2:300 3:800 >3 LOSTHAND"},
+        {"1:400:AsKc 2:400:AhKd 3:200:QhQd 4:300", "1:200 2:300 3:800 >3 Queens LOSTHAND"},
         // A tie with a smaller stake: Layer1 2,700 split with its odd hundred, Layer2 whole to seat 3.
         {"2:900:AhKd 3:3000:AsKc 4:3000:Qh8d", "2:1,400 3:5,500 >2 3 LOSTHAND"},
         // The best hand has the lowest stake: each layer falls to the first place that can claim it.
-        {"2:500:AhAd 3:2000:KhKd 4:4000:QhQd 5:4000:ThTd", "2:2,000 3:4,500 4:4,000 >2 LOSTHAND"},
+        {"2:500:AhAd 3:2000:KhKd 4:4000:QhQd 5:4000:ThTd",
+         "2:2,000 3:4,500 4:4,000 >2 Aces Kings Queens Tens LOSTHAND"},
         // Six stakes: chips above the fourth level are one layer, claimed by finish order.
         {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000:8h8d 7:6000:6h6d",
-         "2:6,000 3:5,000 4:4,000 5:3,000 6:3,000 >2 LOSTHAND"},
-        {"2:6000:AhAd 3:5000:KhKd 4:4000:QhQd 5:3000:ThTd 6:2000:8h8d 7:1000:6h6d", "2:21,000 >2 LOSTHAND"},
+         "2:6,000 3:5,000 4:4,000 5:3,000 6:3,000 >2 Aces Kings Queens Tens Eights Sixes LOSTHAND"},
+        {"2:6000:AhAd 3:5000:KhKd 4:4000:QhQd 5:3000:ThTd 6:2000:8h8d 7:1000:6h6d",
+         "2:21,000 >2 Aces Kings Queens Tens Eights Sixes LOSTHAND"},
         {"2:1000:6h6d 3:6000:KhKd 4:5000:QhQd 5:4000:ThTd 6:3000:8h8d 7:2000:AhAd",
-         "3:10,000 7:11,000 >7 LOSTHAND"},
+         "3:10,000 7:11,000 >7 Sixes Kings Queens Tens Eights Aces LOSTHAND"},
         // Equal stakes add one level; a folded stake above them all goes to whoever is in.
-        {"1:2000:AhAd 2:2000:KhKd 3:2000:QhQd 4:1000:ThTd 5:3000", "1:10,000 >1 WONHAND"},
+        {"1:2000:AhAd 2:2000:KhKd 3:2000:QhQd 4:1000:ThTd 5:3000",
+         "1:10,000 >1 Aces Kings Queens Tens WONHAND"},
         // The user folds and a side layer is all that is left to decide.
-        {"1:200 2:500:AhAd 3:3000:KhKd 4:3000:QhQd", "2:1,700 3:5,000 >2 LOSTHAND"},
+        {"1:200 2:500:AhAd 3:3000:KhKd 4:3000:QhQd", "2:1,700 3:5,000 >2 Aces Kings Queens LOSTHAND"},
         // A Layer5 nobody in the hand can claim leaves the table, and the closing check says so.
         {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000",
-         "2:5,000 3:4,000 4:3,000 5:2,000 >2 LOSTHAND | Table 1: Total Pot: 15000   Total Paid: 14000 | "
+         "2:5,000 3:4,000 4:3,000 5:2,000 >2 Aces Kings Queens Tens LOSTHAND | Table 1: Total Pot: 15000   Total Paid: 14000 | "
          "Table Total: 79000"},
         // All fold to the large blind: its 200 and the small blind's 100, no card turned.
         {"2:100 3:200:AhKd", "3:300 >3 LOSTHAND"},
-        {"1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", "1:3,300 3:8,000 >1 WONHAND"},
+        {"1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", "1:3,300 3:8,000 >1 Aces Kings WONHAND"},
     };
     for (auto [stakes, outcome] : rows) EXPECT_EQ(Settle(stakes), outcome) << stakes;
-    EXPECT_EQ(Settle("1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", false), "1:3,300 3:8,000 >1");
-}
-
-// What the table shows: the hands and their names only with two seats left.
-TEST(SettlePots, HandsAreShownOnlyAtAShowdown) {
-    for (bool showdown : {true, false}) {
-        test::ScriptedPlatform p;
-        Game g(p);
-        test::EmptyTable(g);
-        g.rnd.Script({});
-        test::SetBoard(g, "2c7d9hJs4s");
-        for (int s = 1; s <= kSeats; ++s) test::SeatPlayer(g, s, kStart, 0, 0, false);
-        test::SeatPlayer(g, 1, 9000, 1000, 0, true);
-        test::SeatPlayer(g, 3, 9000, 1000, 0, showdown);
-        test::SeatPlayer(g, 4, 9500, 0, 500, true);
-        for (int s : {1, 3, 4}) test::SetHole(g, s, s == 1 ? "AhAd" : s == 3 ? "KhKd" : "Qh8d");
-        for (int s = 1; s <= kSeats; ++s) g.view.lblBet[s].text = "bet", g.view.iArrow[s].visible = true;
-        g.SeatInHand[4] = false;  // folded this street with its bet still out
-        g.PlayersInHand = showdown ? 2 : 1;
-        test::RankRiver(g);
-        g.TimerHandOver_Timer();
-        std::string shown;
-        for (int s = 1; s <= 4; ++s)
-            shown += g.view.lblBet[s].text + "/" + std::to_string(g.view.icard[s].picture) + "/" +
-                     std::to_string(g.view.icard[s + 8].picture) + "/" + std::to_string(g.BreakdownBet[s]) +
-                     " ";
-        EXPECT_EQ(shown, showdown ? "Aces/13/39/1000 /0/0/0 Kings/12/38/1000 /11/33/500 "
-                                  : "/0/0/1000 /0/0/0 /0/0/1000 /0/0/500 ");
-        EXPECT_EQ(g.RosterBank[1], 11500);
-        EXPECT_FALSE(g.view.icard[4].visible || g.view.icard[12].visible);
-        EXPECT_EQ(g.RunningTimer(), kTimerCount);
-    }
+    EXPECT_EQ(Settle("1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", false), "1:3,300 3:8,000 >1 Aces Kings");
 }
 
 // Chips that folded seats put above the fourth level when nobody in the hand

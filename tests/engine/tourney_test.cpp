@@ -4,10 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
 #include <sstream>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "tests/support/builders.h"
@@ -95,52 +93,6 @@ TEST(Background, WholeHands) {
     };
     for (auto [stacks, button, holes, moves, outcome] : rows)
         EXPECT_EQ(PlayBackground(stacks, button, holes, moves), outcome) << stacks << " " << moves;
-}
-
-TEST(Background, ShuffleRoundsHalfToEvenAndEveryTablePlaysOnce) {
-    test::ScriptedPlatform p;
-    Game g(p);
-    g.SmallBlind = 100;
-    g.RosterBank[RosterPosition(2, 1)] = g.RosterBank[RosterPosition(2, 2)] = 10000;
-    std::vector<float> draws(52, 0.5f);  // k = 51 takes 25.5 to 26, k = 1 takes 0.5 to 0
-    draws[5] = 0.3f, draws[9] = 0.7f;    // 46 * 0.3 = 13.8, 42 * 0.7 = 29.4
-    draws.resize(58, kNo);
-    g.rnd.Script(draws);
-    g.PlayTableHand(2);
-    std::vector<int> pool(52);
-    for (int i = 0; i < 52; ++i) pool[i] = i + 1;
-    for (int i = 0, k = 51; i < 52; ++i, --k) {
-        int j = static_cast<int>(std::nearbyint(static_cast<float>(k) * draws[i]));
-        EXPECT_EQ(g.Deck[i], pool[j]) << "card " << i;
-        pool[j] = pool[k];
-    }
-    EXPECT_EQ(g.rnd.Remaining() + g.rnd.Overdrawn(), 0u);
-
-    // Tables 2 and 4 hold two players each; table 3 one, who sits out and draws nothing.
-    Game h(p);
-    h.SmallBlind = 100;
-    for (int pos : {1, 9, 13, 17, 25, 26}) h.RosterBank[pos] = 10000;
-    h.TablesInPlay = 4;
-    std::vector<float> hand(52, 0.0f);
-    hand.resize(58, kNo);
-    h.rnd.Script(test::Draws({hand, hand}));
-    h.PlayOtherTables();
-    EXPECT_EQ(std::vector<int>({h.TableButton[2], h.TableButton[3], h.TableButton[4]}),
-              std::vector<int>({1, 0, 1}));
-    EXPECT_EQ(h.RosterBank[25] + h.RosterBank[26], 20000);
-    EXPECT_EQ(h.rnd.Remaining() + h.rnd.Overdrawn(), 0u);
-    h.TablesInPlay = 1;  // a single table: nothing plays, nothing is drawn
-    h.PlayOtherTables();
-    EXPECT_EQ(h.rnd.Overdrawn(), 0);
-
-    // A state play never reaches: nobody holds the high bet; the round stops after 1,000 turns.
-    g.CardsKnown = 5, g.PlayersInHand = 2, g.HighBetIndex = 7, g.CurrentSeat = 1;
-    g.SeatInHand = {false, true, true};
-    g.TableBank[1] = g.TableBank[2] = 1000;
-    g.SeatHandCode[1] = g.SeatHandCode[2] = 199;
-    g.rnd.Script(std::vector<float>(1000, kNo));
-    g.PlayTableRound(false);
-    EXPECT_EQ(g.rnd.Remaining() + g.rnd.Overdrawn(), 0u);
 }
 
 // Settles table 3 with the stakes ("2:3000+2000:120": SeatTotalBet, SeatBet,
@@ -339,105 +291,6 @@ TEST(Balance, SingleTablesWideAndThinFields) {
     EXPECT_EQ(g.TablesInPlay * 10000 + g.PlayersLeft, 125 * 10000 + 993);
     ExpectPermutation(g, 1000);
 
-    Game h(p);  // a thin 200 field over all 25 tables
-    map.clear();
-    for (int t = 0; t < 25; ++t)
-        map += std::string(1 + (t * 5) % 7, 'x') + std::string(7 - (t * 5) % 7, '.') + " ";
-    SeatField(h, map, 200);
-    h.BalanceTables();
-    ExpectPermutation(h, 200);
-    std::vector<int> after = TableCounts(h, 25);
-    for (int t = 1; t <= 25; ++t)
-        EXPECT_TRUE(t <= h.TablesInPlay ? after[t - 1] >= 5 : after[t - 1] == 0) << t;
-}
-
-// The user reads the deck StartHand laid out and calls only what it wins, so
-// the game is played out to the last player.
-int UserButton(const Game& g) {
-    if (g.view.cmdPlay[1].enabled) return 1;
-    Game river(g);
-    river.CardsKnown = 7;
-    river.RankHands();
-    bool wins = g.view.cmdPlay[2].enabled;
-    for (int s = 2; s <= kSeats; ++s)
-        wins = wins && !(river.SeatInHand[s] && river.CompareShowdown(1, s) <= 0);
-    return wins ? 2 : 4;
-}
-
-// After every hand: chips of the field, every record once, places 1..N given
-// once each to exactly the busted, the count, and the tables in play.
-void CheckField(const Game& g, const test::ScriptedPlatform& p, int n, int hand, bool& finalTable,
-                bool& shuttled) {
-    int64_t chips = 0;
-    std::set<int> numbers, places;
-    int busted = 0;
-    for (int pos = 1; pos <= kRoster; ++pos) {
-        chips += g.RosterBank[pos];
-        if (pos > n) continue;
-        numbers.insert(g.RosterNumber[pos]);
-        bool out = g.RosterBank[pos] == 0;
-        busted += out;
-        ASSERT_EQ(out, g.RosterPlace[pos] > 0) << "position " << pos << " after hand " << hand;
-        ASSERT_TRUE(!out || (places.insert(g.RosterPlace[pos]).second && g.RosterPlace[pos] <= n))
-            << g.RosterPlace[pos];
-    }
-    ASSERT_EQ(chips, int64_t{n} * 10000) << "after hand " << hand;
-    ASSERT_TRUE(numbers.size() == static_cast<size_t>(n) && *numbers.begin() == 1 && *numbers.rbegin() == n);
-    ASSERT_TRUE(places.empty() || (*places.begin() == n - busted + 1 && *places.rbegin() == n));
-    ASSERT_EQ(g.NextFinishPlace, n - busted);
-    ASSERT_TRUE(p.messages.empty()) << p.messages.front().text;
-    std::string why;
-    ASSERT_TRUE(g.state_is_ok(&why)) << why;
-    if (g.GameEnded) return;
-    ASSERT_EQ(g.PlayersLeft, n - busted);
-    finalTable |= g.TablesInPlay == 1;
-    bool shuttle = g.TablesInPlay == 2 && g.PlayersLeft == 9;
-    shuttled |= shuttle;
-    for (int t = 1; t <= kTables; ++t) {
-        int here = 0;
-        for (int s = 1; s <= kSeats; ++s) here += g.RosterBank[RosterPosition(t, s)] > 0;
-        int least = g.TablesInPlay > 1 && !shuttle ? 5 : 1;
-        ASSERT_TRUE(t > g.TablesInPlay ? here == 0 : here >= least)
-            << "table " << t << " after hand " << hand;
-    }
-}
-
-TEST(Tournament, SeededFieldsArePlayedToTheLastPlayer) {
-    bool shuttled = false;
-    for (auto [n, seed] :
-         {std::pair{80, 1}, {80, 2}, {80, 3}, {80, 4}, {80, 5}, {80, 6}, {200, 1}, {200, 2}}) {
-        SCOPED_TRACE(std::to_string(n) + " players, seed " + std::to_string(seed));
-        test::ScriptedPlatform p;
-        Game g(p);
-        g.rnd.SeedDeterministic(static_cast<uint64_t>(seed));
-        g.TournamentSize = g.PlayersLeft = g.NextFinishPlace = static_cast<int16_t>(n);
-        for (int pos = 1; pos <= n; ++pos)
-            g.RosterName[pos] = "Player " + std::to_string(pos), g.RosterBank[pos] = 10000,
-            g.RosterNumber[pos] = static_cast<int16_t>(pos);
-        g.SmallBlind = 100;
-        g.ButtonSeat = 4;
-        g.BalanceTables();
-        g.StartHand();
-        bool finalTable = false;
-        int hands = 0;
-        for (long step = 0; !g.GameEnded && !::testing::Test::HasFatalFailure(); ++step) {
-            ASSERT_LT(step, 5'000'000) << "the game did not end";
-            TimerId running = g.RunningTimer();
-            if (running != kTimerCount) {
-                g.FireTimer(running);
-                if (running == TimerHandOver) CheckField(g, p, n, ++hands, finalTable, shuttled);
-            } else if (g.view.cmdPlay[1].visible) {
-                g.cmdPlay_Click(UserButton(g));
-            } else {
-                ASSERT_TRUE(g.view.cmdDeal.visible) << "nothing to do after hand " << hands;
-                g.cmdDeal_Click();
-            }
-        }
-        EXPECT_TRUE(finalTable);
-        EXPECT_EQ(std::make_tuple(g.RosterBank[1], g.NextFinishPlace, g.UserFinishPlace, g.RosterPlace[1]),
-                  std::make_tuple(n * 10000, int16_t{1}, int16_t{0}, int16_t{0}));
-    }
-    EXPECT_TRUE(shuttled) << "no game passed through nine players on two tables";
 }
 
 }  // namespace
