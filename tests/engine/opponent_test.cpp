@@ -130,9 +130,7 @@ const Move kMoves[] = {
     {1, false, 50, 5, 200, 0, 200, false, {0.2f, 0.5f}, "Called $200 All In", 200, 200, 3, false, true},
     {1, false, 10, 0, 0, 0, 200, false, {0.99f}, "Checked", 0, 200, 3, false, true},  // no chips cannot fold
     {1, true, 50, 5, 10000, 0, 200, true, {0, 0, 0.53f}, "", 1400, 1400, 5, true, true},
-    {1, true, 50, 5, 10000, 0, 200, false, {0, 0, 0.0f}, "", 400, 400, 5, false, true},
     {1, true, 50, 5, 150, 0, 200, false, {0, 0, 0.95f}, "", 150, 200, 3, false, true},
-    {1, true, 10, 0, 10000, 0, 200, false, {0.5f}, "", 0, 200, 3, false, false},
     {1, true, 10, 0, 0, 0, 200, false, {0.5f}, "", 0, 200, 3, false, true},
     // After the flop with nothing to call: RaiseChance alone decides.
     {2, false, 100, 75, 10000, 0, 0, false, {0.76f}, "Checked", 0, 0, 5, false, true},
@@ -150,14 +148,12 @@ const Move kMoves[] = {
     {2, false, 80, 40, 10000, 400, 400, false, {0, 0.158f}, "Raised to $2,400", 2400, 2400, 5, true, true},
     {2, false, 80, 40, 500, 0, 0, false, {0, 0.0f}, "Checked", 0, 0, 5, false, true},  // bet rounds to 0
     {3, false, 80, 40, 500, 0, 0, false, {0, 0.0f}, "Checked", 0, 0, 5, true, true},  // the draw marks the raise
-    {4, false, 80, 40, 500, 0, 0, false, {0, 0.0f}, "Checked", 0, 0, 5, true, true},
     {3, false, 80, 40, 10000, 0, 0, true, {0}, "Checked", 0, 0, 5, true, true},
     {3, false, 80, 40, 0, 0, 0, false, {0}, "Checked", 0, 0, 5, false, true},
     {2, false, 80, 40, 3000, 0, 0, false, {0, 0.1f}, "Bet $500", 500, 500, 5, true, true},  // 450 in single precision
     {2, false, 80, 40, 1000, 0, 0, false, {0, 0.21f}, "Bet $200", 200, 200, 5, true, true},  // 2.5 hundreds to 2
     {2, true, 80, 40, 3000, 0, 0, false, {0, 0.1f}, "", 400, 400, 5, false, true},  // 449.99.. in double
     {3, true, 80, 40, 10000, 0, 0, true, {0, 0.158f}, "", 2000, 2000, 5, true, true},
-    {3, true, 80, 40, 0, 0, 0, false, {0}, "", 0, 0, 5, false, true},
     {3, true, 80, 40, 500, 0, 0, false, {0, 0.0f}, "", 0, 0, 5, false, true},
     // After the flop facing a bet of $1,000: the raise is the call and x * 5 % of what is left.
     {2, false, 80, 40, 10000, 0, 1000, false, {0.81f}, "Folded", 0, 1000, 3, false, false},

@@ -100,7 +100,8 @@ TEST(SettlePots, Examples) {
         {"1:200 2:500:AhAd 3:3000:KhKd 4:3000:QhQd", "2:1,700 3:5,000 >2 Aces Kings Queens LOSTHAND"},
         // A Layer5 nobody in the hand can claim leaves the table, and the closing check says so.
         {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000",
-         "2:5,000 3:4,000 4:3,000 5:2,000 >2 Aces Kings Queens Tens LOSTHAND | Table 1: Total Pot: 15000   Total Paid: 14000 | "
+         "2:5,000 3:4,000 4:3,000 5:2,000 >2 Aces Kings Queens Tens LOSTHAND | Table 1: Total Pot: 15000   "
+         "Total Paid: 14000 | "
          "Table Total: 79000"},
         // All fold to the large blind: its 200 and the small blind's 100, no card turned.
         {"2:100 3:200:AhKd", "3:300 >3 LOSTHAND"},

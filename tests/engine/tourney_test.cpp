@@ -290,7 +290,6 @@ TEST(Balance, SingleTablesWideAndThinFields) {
     EXPECT_EQ(TableCounts(g, 125), counts);
     EXPECT_EQ(g.TablesInPlay * 10000 + g.PlayersLeft, 125 * 10000 + 993);
     ExpectPermutation(g, 1000);
-
 }
 
 }  // namespace
