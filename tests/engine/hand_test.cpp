@@ -34,7 +34,17 @@ std::string Start(Game& g, const std::vector<int32_t>& banks, int button, int32_
             g.view.lblName[s].visible && g.view.lblBank[s].visible && g.view.lblBankDollarSign[s].visible,
             g.RosterBank[s] > 0);
         EXPECT_EQ(g.view.iButton[s].visible, s == g.ButtonSeat);
+        // Deck[p] and Deck[p + 8] to the seat p + 1 after the button, empty or not; the board to all.
+        int p0 = (s - g.ButtonSeat + 7) % kSeats;
+        EXPECT_EQ(g.SeatCards[s][1] * 100 + g.SeatCards[s][2], g.Deck[p0] * 100 + g.Deck[p0 + 8]) << s;
+        for (int k = 3; k <= 7; ++k) EXPECT_EQ(g.SeatCards[s][k], g.Deck[13 + k]) << s;
     }
+    for (int i = 1; i <= 21; ++i)  // faces for the user's cards and the board only
+        EXPECT_EQ(g.view.icard[i].picture, i == 1   ? g.SeatCards[1][1]
+                                           : i == 9 ? g.SeatCards[1][2]
+                                           : i > 16 ? g.Deck[i - 1]
+                                                    : 0)
+            << i;
     return out.str();
 }
 
