@@ -1,65 +1,56 @@
+#include "engine/common.h"
+
 #include <gtest/gtest.h>
 
-#include "engine/common.h"
+#include <algorithm>
+#include <array>
+
 #include "engine/random.h"
 
 namespace holdem {
+namespace {
 
-TEST(Common, MoneyGroupsThousands) {
-    EXPECT_EQ(Money(0), "0");
-    EXPECT_EQ(Money(100), "100");
-    EXPECT_EQ(Money(1000), "1,000");
-    EXPECT_EQ(Money(10000000), "10,000,000");
-    EXPECT_EQ(Money(123456789), "123,456,789");
-    EXPECT_EQ(Money(-2500), "-2,500");
+TEST(Common, MoneyAndRoundingHalfToEven) {
+    EXPECT_EQ(Money(0) + " " + Money(999) + " " + Money(1000) + " " + Money(-2500) + " " + Money(123456789),
+              "0 999 1,000 -2,500 123,456,789");
+    for (auto [x, want] :
+         {std::pair{0.5, 0.0}, {1.5, 2.0}, {2.5, 2.0}, {-0.5, 0.0}, {2.4, 2.0}, {2.6, 3.0}}) {
+        EXPECT_EQ(RoundHalfEven(x), want) << x;
+        EXPECT_EQ(RoundHalfEven(static_cast<float>(x)), static_cast<float>(want)) << x;
+    }
+    volatile float five = 5.0f, share = 0.7f;
+    EXPECT_EQ(RoundHalfEven(five * share), 4.0f);  // 3.5 in single precision, 3.4999... in double
 }
 
-TEST(Common, RoundHalfEvenInBothPrecisions) {
-    EXPECT_EQ(RoundHalfEven(0.5f), 0.0f);
-    EXPECT_EQ(RoundHalfEven(1.5f), 2.0f);
-    EXPECT_EQ(RoundHalfEven(2.5f), 2.0f);
-    EXPECT_EQ(RoundHalfEven(-0.5), 0.0);
-    EXPECT_EQ(RoundHalfEven(3.5), 4.0);
-}
-
-TEST(Common, CardsAndSeats) {
-    EXPECT_EQ(RankOf(13), 13);  // Ace of the first block
-    EXPECT_EQ(RankOf(14), 1);   // Two of the next
-    EXPECT_EQ(RankOf(52), 13);
-    EXPECT_EQ(SuitOf(13), 0);
-    EXPECT_EQ(SuitOf(14), 1);
-    EXPECT_EQ(NextSeat(8), 1);
-    EXPECT_EQ(TableOf(8), 1);
-    EXPECT_EQ(TableOf(9), 2);
-    EXPECT_EQ(RosterPosition(125, 8), 1000);
-}
-
-TEST(Random, ScriptCountsOverdraws) {
+// Scripted draws are counted; a seed repeats exactly, also across reseeds,
+// and its draws spread evenly over the whole of [0, 1).
+TEST(Random, ScriptedAndSeededDraws) {
     Random r;
     r.Script({0.25f, 0.5f});
-    r.Randomize();  // scripted: no effect on the draws
-    EXPECT_EQ(r.Rnd(), 0.25f);
-    EXPECT_EQ(r.Remaining(), 1u);
-    EXPECT_EQ(r.Rnd(), 0.5f);
-    EXPECT_EQ(r.Overdrawn(), 0);
+    r.Randomize();
+    EXPECT_EQ(r.Rnd() + r.Rnd(), 0.75f);
+    EXPECT_EQ(r.Overdrawn() + r.Remaining(), 0u);
     r.Rnd();
     EXPECT_EQ(r.Overdrawn(), 1);
-}
 
-TEST(Random, DeterministicSeedRepeatsAndStaysInRange) {
-    Random a, b;
-    a.SeedDeterministic(7);
-    b.SeedDeterministic(7);
-    for (int i = 0; i < 1000; ++i) {
-        if (i % 50 == 0) {
-            a.Randomize();
-            b.Randomize();
-        }
+    Random a, b, c;
+    a.SeedDeterministic(7), b.SeedDeterministic(7), c.SeedDeterministic(8);
+    EXPECT_NE(a.Rnd(), c.Rnd());
+    b.Rnd();
+    std::array<int, 20> bins{};
+    float low = 1, high = 0;
+    const int n = 100000;
+    for (int i = 0; i < n; ++i) {
+        if (i % 500 == 0) a.Randomize(), b.Randomize();
         float x = a.Rnd();
         ASSERT_EQ(x, b.Rnd());
-        ASSERT_GE(x, 0.0f);
-        ASSERT_LT(x, 1.0f);
+        ASSERT_TRUE(x >= 0.0f && x < 1.0f) << x;
+        ++bins[static_cast<int>(x * 20)];
+        low = std::min(low, x), high = std::max(high, x);
     }
+    for (int count : bins) EXPECT_NEAR(count, n / 20, n / 200);
+    EXPECT_TRUE(low < 0.001f && high > 0.999f);
 }
 
+}  // namespace
 }  // namespace holdem

@@ -1,21 +1,20 @@
-// After the payments: the blinds, the finishing places, the three ways a hand
+// After the payments: the blinds, the finishing places, the ways a hand
 // leaves the game, the finish text and the pot breakdown.
+#include "engine/end_of_hand.h"
+
 #include <gtest/gtest.h>
 
 #include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "engine/end_of_hand.h"
-#include "engine/game_state.h"
-#include "tests/support/hand_builder.h"
+#include "tests/support/builders.h"
 #include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
 
-TEST(SetBlinds, EveryTableAtItsBoundaries) {
+TEST(EndOfHand, BlindsByPlayersLeftAtEveryBoundary) {
     // Per size, from the top: n above the first figure plays the second.
     const std::pair<int16_t, const char*> tables[] = {
         {8, "6:100 4:200 3:400 2:600 0:1000"},
@@ -27,9 +26,7 @@ TEST(SetBlinds, EveryTableAtItsBoundaries) {
     test::ScriptedPlatform p;
     Game g(p);
     auto blindAt = [&g](int16_t size, int n) {
-        g.TournamentSize = size;
-        g.PlayersLeft = static_cast<int16_t>(n);
-        g.SmallBlind = 700;
+        g.TournamentSize = size, g.PlayersLeft = static_cast<int16_t>(n), g.SmallBlind = 700;
         g.SetBlinds();
         return g.SmallBlind;
     };
@@ -44,64 +41,49 @@ TEST(SetBlinds, EveryTableAtItsBoundaries) {
         }
     }
     EXPECT_EQ(blindAt(100, 3), 700);  // any other size leaves the blind as it is
-}
-
-TEST(FinishText, OrdinalEndings) {
     std::string all;
-    for (int16_t n : {1, 2, 3, 4, 11, 12, 13, 21, 22, 23, 101, 111, 112, 1000})
-        all += FinishText(n).substr(13) + " ";
-    EXPECT_EQ(all, "1st 2nd 3rd 4th 11th 12th 13th 21st 22nd 23rd 101st 111th 112th 1000th ");
-    EXPECT_EQ(FinishText(2), "You Finished 2nd");
+    for (int16_t n : {1, 2, 3, 4, 11, 12, 13, 21, 22, 23, 101, 111, 112, 1000}) all += FinishText(n) + ",";
+    EXPECT_EQ(all,
+              "You Finished 1st,You Finished 2nd,You Finished 3rd,You Finished 4th,You Finished 11th,You "
+              "Finished 12th,You Finished 13th,You Finished 21st,You Finished 22nd,You Finished 23rd,You "
+              "Finished 101st,You Finished 111th,You Finished 112th,You Finished 1000th,");
 }
 
 // A shown hand at its end: the user in seat 1 against one opponent, the rest
 // folded with nothing in; the other tables play no hand.
-class EndOfHand : public ::testing::Test {
+class HandOver : public ::testing::Test {
 protected:
     void SetUp() override { g.rnd.Script({}); }
-    void TearDown() override {
-        std::string why;
-        EXPECT_TRUE(g.state_is_ok(&why)) << why;
-        EXPECT_EQ(g.rnd.Remaining(), 0u);
-        EXPECT_EQ(g.rnd.Overdrawn(), 0);
-    }
-
+    void TearDown() override { test::ExpectSettled(g); }
     // `size` players of 10,000; those in `out` busted before, in rising order
     // of place from NextFinishPlace + 1.
-    void Table(int16_t size, const std::vector<int>& out = {}) {
+    void Field(int16_t size, const std::vector<int>& out = {}) {
         test::EmptyTable(g, size);
-        for (int i = 1; i <= size; ++i) {
-            g.RosterName[i] = "Player " + std::to_string(i);
-            g.RosterBank[i] = 10000;
-        }
+        for (int i = 1; i <= size; ++i)
+            g.RosterName[i] = "Player " + std::to_string(i), g.RosterBank[i] = 10000, g.RosterPlace[i] = 0;
+        g.UserFinishPlace = 0;
         g.NextFinishPlace = g.PlayersLeft = static_cast<int16_t>(size - out.size());
         int16_t place = g.NextFinishPlace;
         for (int i : out) g.RosterBank[i] = 0, g.RosterPlace[i] = ++place;
         g.TablesInPlay = 1;
-        test::SetBoard(g, {"2c", "7d", "9h", "Js", "4s"});
+        test::SetBoard(g, "2c7d9hJs4s");
         for (int s = 1; s <= kSeats; ++s) {
-            test::SeatPlayer(g, s, g.RosterName[s], static_cast<float>(g.RosterBank[s]), 0, 0, false);
-            test::SetHole(g, s, "3c", "5c");
+            test::SeatPlayer(g, s, static_cast<float>(g.RosterBank[s]), 0, 0, false);
+            test::SetHole(g, s, "3c5c");
         }
     }
     void Showdown(int32_t stake, bool userWins, int opponent = 2) {
         g.HandIsOver = false;
-        for (int s : {1, opponent})
-            test::SeatPlayer(g, s, g.RosterName[s], static_cast<float>(g.RosterBank[s] - stake), stake);
-        test::SetHole(g, 1, userWins ? "Ah" : "Kh", userWins ? "Ad" : "Kd");
-        test::SetHole(g, opponent, userWins ? "Kc" : "Ac", userWins ? "Ks" : "As");
-        for (int s = 1; s <= kSeats; ++s)
-            if (g.RosterBank[s] == 0) test::SeatPlayer(g, s, g.RosterName[s], 0.0f, 0, 0, false);
+        for (int s = 1; s <= kSeats; ++s) {
+            bool in = s == 1 || s == opponent;
+            test::SeatPlayer(g, s, static_cast<float>(g.RosterBank[s] - (in ? stake : 0)), in ? stake : 0, 0,
+                             in);
+        }
+        test::SetHole(g, 1, userWins ? "AhAd" : "KhKd");
+        test::SetHole(g, opponent, userWins ? "KcKs" : "AcAs");
         g.view.timer[TimerHandOver].enabled = true;
         test::RankRiver(g);
         g.TimerHandOver_Timer();
-    }
-    // The user and seat 2 are the last two, with the sound off: the end sounds play all the same.
-    void HeadsUp(bool userWins) {
-        Table(8, {8, 7, 6, 5, 4, 3});
-        g.view.mnuSound.checked = false;
-        g.view.cmdDeal.visible = !userWins;  // closing the game-over form hides it
-        Showdown(10000, userWins);
     }
     // The game after the hand, in one line.
     std::string State() const {
@@ -121,13 +103,12 @@ protected:
         s << " pauses " << p.pauses;
         return s.str();
     }
-
     test::ScriptedPlatform p;
     Game g{p};
 };
 
-TEST_F(EndOfHand, TheGameGoesOnAndTheBlindsFollowThePreviousCount) {
-    Table(8, {8});
+TEST_F(HandOver, TheGameGoesOnAndTheBlindsFollowThePreviousCount) {
+    Field(8, {8});
     g.GameUnsaved = g.view.mnuSave.enabled = g.view.mnuSaveAs.enabled = false;
     Showdown(10000, true);  // seat 2 busts: 7 left at the count before, so 100 still
     EXPECT_EQ(State(),
@@ -140,13 +121,12 @@ TEST_F(EndOfHand, TheGameGoesOnAndTheBlindsFollowThePreviousCount) {
     EXPECT_EQ(g.RosterPlace[2], 7);  // a place is given once
 }
 
-TEST_F(EndOfHand, BustedTogetherTheUserTakesTheWorstPlace) {
+TEST_F(HandOver, BustedTogetherTheUserTakesTheWorstPlace) {
     std::vector<int> out;  // out before, with places 58 to 200
     for (int i = 58; i <= 200; ++i)
         if (i != 75 && i != 140) out.push_back(i);
-    out.push_back(41);
-    out.push_back(42);
-    Table(200, out);
+    out.push_back(41), out.push_back(42);
+    Field(200, out);
     ASSERT_EQ(g.NextFinishPlace, 57);
     for (int i : {20, 75, 140}) g.RosterBank[i] = 0;  // busted at their tables this round
     g.SmallBlind = 800;
@@ -159,28 +139,33 @@ TEST_F(EndOfHand, BustedTogetherTheUserTakesTheWorstPlace) {
               std::vector<int>({57, 56, 55, 54, 199, 198}));  // earlier places stand
 }
 
-TEST_F(EndOfHand, TheUserBustsAgainstTheLastOpponent) {
-    HeadsUp(false);
-    EXPECT_EQ(State(),
-              "left 1 next 1 user 2 Blinds: $1,000 - $2,000 save unsaved ended GAMEOVER over 2 pauses 1");
-    EXPECT_EQ(g.RosterPlace[2], 0);  // the last player standing has no place
+// The user and seat 2 are the last two, sound off: the end sounds play all the same.
+TEST_F(HandOver, TheLastTwo) {
+    for (bool userWins : {false, true}) {
+        p.sounds.clear(), p.gameOvers.clear(), p.pauses = 0;
+        Field(8, {8, 7, 6, 5, 4, 3});
+        g.GameEnded = g.view.picTableMoney.visible = false;
+        g.view.mnuSound.checked = false;
+        g.view.cmdDeal.visible = !userWins;  // closing the game-over form hides it
+        Showdown(10000, userWins);
+        EXPECT_EQ(
+            State(),
+            userWins
+                ? "left 1 next 1 user 0 Blinds: $1,000 - $2,000 winner save unsaved ended WIN pauses 2"
+                : "left 1 next 1 user 2 Blinds: $1,000 - $2,000 save unsaved ended GAMEOVER over 2 pauses 1");
+        EXPECT_EQ(std::to_string(g.RosterPlace[1]) + " " + std::to_string(g.RosterPlace[2]),
+                  userWins ? "0 2" : "2 0");
+    }
 }
 
-TEST_F(EndOfHand, TheUserTakesTheLastChips) {
-    HeadsUp(true);
-    EXPECT_EQ(State(), "left 1 next 1 user 0 Blinds: $1,000 - $2,000 winner save unsaved ended WIN pauses 2");
-    EXPECT_EQ(std::to_string(g.RosterPlace[1]) + " " + std::to_string(g.RosterPlace[2]), "0 2");
-}
-
-TEST_F(EndOfHand, PotBreakdownLiveThenSnapshot) {
-    Table(8, {5});
+TEST_F(HandOver, PotBreakdownLiveThenSnapshot) {
+    Field(8, {5});
     g.RosterName[5] = "";
-    test::SeatPlayer(g, 5, "", 0.0f, 0, 0, false);
-    test::SeatPlayer(g, 1, g.RosterName[1], 9000.0f, 600, 400);
-    test::SeatPlayer(g, 2, g.RosterName[2], 9000.0f, 600, 400);
-    test::SeatPlayer(g, 3, g.RosterName[3], 9400.0f, 600, 0, false);  // folded
-    test::SetHole(g, 1, "Ah", "Ad");
-    test::SetHole(g, 2, "Kh", "Kd");
+    test::SeatPlayer(g, 1, 9000.0f, 600, 400);
+    test::SeatPlayer(g, 2, 9000.0f, 600, 400);
+    test::SeatPlayer(g, 3, 9400.0f, 600, 0, false);
+    test::SetHole(g, 1, "AhAd");
+    test::SetHole(g, 2, "KhKd");
     auto shown = [this] {
         const PotBreakdown& b = p.breakdowns.back();
         std::string s;
@@ -204,8 +189,7 @@ TEST_F(EndOfHand, PotBreakdownLiveThenSnapshot) {
     EXPECT_EQ(shown(), live);
     g.HandIsOver = false;  // a new hand: live figures again
     for (int s = 1; s <= kSeats; ++s) g.SeatTotalBet[s] = g.SeatBet[s] = 0;
-    g.SeatBet[2] = 100;
-    g.SeatBet[3] = 200;
+    g.SeatBet[2] = 100, g.SeatBet[3] = 200;
     g.lblPot_Click();
     EXPECT_EQ(shown(),
               "Renamed=0 Player 2=100 Player 3=200 Player 4=0 =0 Player 6=0 Player 7=0 Player 8=0 300");

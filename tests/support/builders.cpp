@@ -1,0 +1,152 @@
+#include "tests/support/builders.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace holdem::test {
+
+int16_t CardOf(const std::string& name) {
+    static const std::string kRanks = "23456789TJQKA", kSuits = "hsdc";
+    if (name.size() != 2) return 0;
+    auto rank = kRanks.find(name[0]), suit = kSuits.find(name[1]);
+    if (rank == std::string::npos || suit == std::string::npos) return 0;
+    return static_cast<int16_t>(suit * 13 + rank + 1);
+}
+
+std::vector<int16_t> CardsOf(const std::string& names) {
+    std::string packed;
+    for (char c : names)
+        if (c != ' ') packed += c;
+    std::vector<int16_t> cards;
+    for (std::size_t i = 0; i + 1 < packed.size(); i += 2) cards.push_back(CardOf(packed.substr(i, 2)));
+    return cards;
+}
+
+void SetBoard(Game& g, const std::string& cards) {
+    std::vector<int16_t> board = CardsOf(cards);
+    for (std::size_t k = 0; k < board.size(); ++k) {
+        g.Deck[kBoardFirst + k] = board[k];
+        for (int s = 1; s <= kSeats; ++s) g.SeatCards[s][3 + k] = board[k];
+    }
+}
+
+void SetHole(Game& g, int seat, const std::string& cards) {
+    std::vector<int16_t> hole = CardsOf(cards);
+    g.SeatCards[seat][1] = hole[0];
+    g.SeatCards[seat][2] = hole[1];
+}
+
+void SeatPlayer(Game& g, int seat, float bankLeft, int32_t totalBet, int32_t bet, bool inHand) {
+    g.RosterBank[seat] = static_cast<int32_t>(bankLeft) + totalBet + bet;
+    g.SeatBank[seat] = bankLeft;
+    g.PlayersInHand = static_cast<int16_t>(g.PlayersInHand - g.SeatInHand[seat] + inHand);
+    g.Pot += totalBet + bet - g.SeatTotalBet[seat] - g.SeatBet[seat];
+    g.SeatTotalBet[seat] = totalBet;
+    g.SeatBet[seat] = bet;
+    g.SeatInHand[seat] = inHand;
+    g.view.icard[seat].visible = g.view.icard[seat + 8].visible = inHand;
+}
+
+void EmptyTable(Game& g, int16_t size) {
+    g.TournamentSize = g.PlayersLeft = g.NextFinishPlace = size;
+    g.TablesInPlay = static_cast<int16_t>((size + kSeats - 1) / kSeats);
+    g.SmallBlind = 100;
+    g.Street = 4;
+    g.view.mnuSound.checked = true;
+    for (int s = 1; s <= kSeats; ++s) g.SeatHandCode[s] = kNoHand;
+    for (int i = 1; i <= size; ++i) g.RosterNumber[i] = static_cast<int16_t>(i);
+    g.view.timer[TimerHandOver].enabled = true;
+}
+
+void RankRiver(Game& g) {
+    g.CardsKnown = 7;
+    g.RankHands();
+}
+
+void SeatTable(Game& g, const std::vector<int32_t>& banks, int button, int32_t smallBlind) {
+    int s = 0, players = 0;
+    for (int32_t bank : banks) {
+        ++s;
+        g.RosterNumber[s] = static_cast<int16_t>(s);
+        g.RosterName[s] = g.SeatName[s] = s == 1 ? "You" : "Player " + std::to_string(s);
+        g.RosterBank[s] = bank;
+        players += bank > 0;
+    }
+    g.ButtonSeat = static_cast<int16_t>(button);
+    g.SmallBlind = smallBlind;
+    g.TournamentSize = kSeats;
+    g.PlayersLeft = static_cast<int16_t>(players);
+    g.TablesInPlay = 1;
+    g.view.mnuSound.checked = true;
+}
+
+std::vector<float> ShuffleDrawsFor(const std::vector<int>& front) {
+    std::array<int, kDeckSize> pool{};
+    for (int i = 0; i < kDeckSize; ++i) pool[i] = i + 1;
+    std::vector<float> draws;
+    for (int i = 0; i < kDeckSize; ++i) {
+        int k = kDeckSize - 1 - i, j = 0;
+        if (i < static_cast<int>(front.size())) {
+            auto at = std::find(pool.begin(), pool.begin() + k + 1, front[i]);
+            if (at == pool.begin() + k + 1) throw std::invalid_argument("card twice in the deck");
+            j = static_cast<int>(at - pool.begin());
+        }
+        // A little below j where possible: truncating instead of rounding
+        // would deal another card.
+        float draw = k == 0 ? 0.0f : (static_cast<float>(j) + (j > 0 ? -0.3f : 0.3f)) / static_cast<float>(k);
+        if (static_cast<int>(RoundHalfEven(static_cast<float>(k) * draw)) != j)
+            throw std::logic_error("no draw for the wanted card");
+        draws.push_back(draw);
+        pool[j] = pool[k];
+    }
+    return draws;
+}
+
+std::vector<int> DeckFor(int button, const std::array<std::string, 9>& holes, const std::string& board) {
+    std::vector<int> deck(21, 0);
+    std::array<bool, kDeckSize + 1> used{};
+    auto take = [&used](int card) {
+        if (card < 1 || card > kDeckSize || used[card]) throw std::invalid_argument("bad or repeated card");
+        used[card] = true;
+        return card;
+    };
+    for (int p = 1; p <= kSeats; ++p) {
+        int seat = (button + p - 1) % kSeats + 1;
+        if (holes[seat].empty()) continue;
+        std::vector<int16_t> hole = CardsOf(holes[seat]);
+        deck[p - 1] = take(hole[0]);
+        deck[p + 7] = take(hole[1]);
+    }
+    std::vector<int16_t> middle = CardsOf(board);
+    for (int k = 0; k < 5; ++k) deck[kBoardFirst + k] = take(middle[k]);
+    for (int& card : deck)
+        for (int spare = kDeckSize; card == 0; --spare)
+            if (!used[spare]) card = take(spare);
+    return deck;
+}
+
+std::vector<float> Draws(std::initializer_list<std::vector<float>> parts) {
+    std::vector<float> all;
+    for (const auto& part : parts) all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+void ExpectSettled(const Game& g) {
+    EXPECT_EQ(g.rnd.Remaining(), 0u) << "draws left unused";
+    EXPECT_EQ(g.rnd.Overdrawn(), 0) << "draws beyond the script";
+    std::string why;
+    EXPECT_TRUE(g.state_is_ok(&why)) << why;
+}
+
+HandCategory CategoryOfCode(int code) {
+    static const int kLast[] = {10, 23, 36, 37, 47, 60, 138, 151};
+    static const HandCategory kCategory[] = {StraightFlush, Quads, FullHouse, Flush,
+                                             Straight,      Trips, TwoPair,   Pair};
+    for (int i = 0; i < 8; ++i)
+        if (code <= kLast[i]) return kCategory[i];
+    return HighCard;
+}
+
+}  // namespace holdem::test
