@@ -7,9 +7,8 @@
 #include "engine/autoplay.h"
 #include "engine/game_state.h"
 #include "files/statistics.h"
-#include "tests/support/hand_builder.h"
+#include "tests/support/builders.h"
 #include "tests/support/scripted_platform.h"
-#include "tests/support/table_builder.h"
 
 namespace holdem {
 namespace {
@@ -28,13 +27,9 @@ std::vector<std::string> Lines(const Game& g) {
 TEST(HandLog, TellsASidePotHandFromBlindsToPayments) {
     ScriptedPlatform p;
     Game g(p);
-    TableBuilder().Banks({1000, 0, 5000, 0, 5000, 0, 0, 0}).Button(7).ApplyTo(g);
+    SeatTable(g, {1000, 0, 5000, 0, 5000, 0, 0, 0}, 7);
     for (int s : {2, 4, 6, 7, 8}) g.RosterPlace[s] = static_cast<int16_t>(s);  // out before this hand
-    std::array<std::pair<int, int>, 9> holes{};
-    holes[1] = {CardOf("Kh"), CardOf("Ks")};
-    holes[3] = {CardOf("Qh"), CardOf("Qs")};
-    holes[5] = {CardOf("Ad"), CardOf("3c")};
-    auto deck = DeckFor(1, holes, {CardOf("2h"), CardOf("7s"), CardOf("9d"), CardOf("Jc"), CardOf("4h")});
+    auto deck = DeckFor(1, {"", "KhKs", "", "QhQs", "", "Ad3c"}, "2h7s9dJc4h");
     const float check = 0.999f;
     g.rnd.Script(Draws({ShuffleDrawsFor(deck), {0, 0, 0}, {0, check}, std::vector<float>(6, check)}));
     p.betAmounts.push_back(1000);
