@@ -15,6 +15,7 @@
 #include "views/frm_main.h"
 #include "views/frm_statistics.h"
 #include "views/hand_log_panel.h"
+#include "views/table_scene.h"
 #include "views/tourney_panel.h"
 
 namespace holdem {
