@@ -1,12 +1,10 @@
 // The table at several window sizes under a device pixel ratio of 2 (unless
 // QT_SCALE_FACTOR says otherwise): elements at their layout rectangle times the
 // scene's one factor, no text over another text, a card or the dealer disc.
-// Grabs (scale_*.png) are saved beside the test to be looked at.
 #include <QPushButton>
 #include <QStyle>
-#include <QtTest>
 
-#include "tests/views/window_hand_fixture.h"
+#include "tests/views/window_fixture.h"
 #include "views/table_scene.h"
 
 using namespace holdem;
@@ -87,9 +85,7 @@ private slots:
                 QVERIFY2(!TextRect(la).intersects(thing ? b->geometry() : TextRect(lb)),
                          qPrintable(la->text() + " over " + (thing ? b->objectName() : lb->text())));
             }
-        QVERIFY(test::NoLabelClipped(w));
-        QString name = QString(QTest::currentDataTag()).replace(' ', '_').remove(',');
-        QVERIFY(w.grab().save(QCoreApplication::applicationDirPath() + "/scale_" + name + ".png"));
+        test::Shot(w, "scale_" + QString(QTest::currentDataTag()).replace(' ', '_').remove(','));
     }
 };
 

@@ -1,46 +1,77 @@
-// The window and its forms on the offscreen platform: a heads-up hand played by
-// clicks and timer ticks, the exit question, the dialogs by keys, and the field
-// views by clicks. Each form is photographed beside the test program.
-#include <QAction>
+// The window and its forms on the offscreen platform: a heads-up hand by clicks,
+// keys and timer ticks, the exit question, the dialogs by keys, the field views
+// by clicks, and forms opened mid-hand. Each form is photographed.
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
-#include <QTimer>
-#include <QtTest>
-#include <fstream>
 
-#include "tests/support/scripted_platform.h"
+#include "tests/views/window_fixture.h"
+#include "views/frm_about.h"
 #include "views/frm_bet_amount.h"
 #include "views/frm_casino_floor.h"
 #include "views/frm_help.h"
-#include "views/frm_main.h"
 #include "views/frm_new_game.h"
 #include "views/frm_player_name.h"
+#include "views/frm_pot_breakdown.h"
 #include "views/frm_rankings.h"
+#include "views/frm_rules.h"
 #include "views/frm_splash.h"
 #include "views/frm_tip.h"
 
 using namespace holdem;
+using test::Shot;
+using test::Shows;
 
 namespace {
-bool Shows(QWidget* w) { return w->isVisibleTo(w->parentWidget()); }
-// Shown and photographed; no visible label cuts its text.
-void Shot(QWidget& form, const QString& name) {
-    form.show();
-    QVERIFY(form.grab().save(name + ".png"));
-    for (QLabel* l : form.findChildren<QLabel*>())
-        QVERIFY2(!l->isVisible() || l->fontMetrics().horizontalAdvance(l->text()) <= l->width(),
-                 qPrintable(l->text()));
+
+// Opens the real forms, and while each one's own event loop runs, fires the
+// hand timer that is due, as a QTimer would, before Escape closes the form.
+class FormsPlatform : public test::ScriptedPlatform {
+public:
+    frmMain* w = nullptr;
+    void ShowPotBreakdown(const PotBreakdown& b) override { Open(new frmPotBreakdown(b, w)); }
+    void ShowStandings(const std::string& path) override { Open(new frmRankings(path, w)); }
+    void ShowFloor(const std::string& path) override { Open(new frmCasinoFloor(path, w)); }
+    void ShowInfo(InfoForm f) override {
+        const std::string& at = w->game.AppFolder;
+        Open(f == InfoForm::Help    ? static_cast<QDialog*>(new frmHelp(at, w))
+             : f == InfoForm::Rules ? static_cast<QDialog*>(new frmRules(at, w))
+                                    : new frmAbout(at, w));
+    }
+    void Open(QDialog* form) {
+        QTimer::singleShot(0, form, [this, form] {
+            if (TimerId due = test::RunningTimer(*w); due != kTimerCount) w->TimerTick(due);
+            QTest::keyClick(form, Qt::Key_Escape);
+        });
+        form->exec();
+        delete form;
+    }
+};
+
+std::string Here() { return QCoreApplication::applicationDirPath().toStdString() + "/"; }
+bool FocusOnAButton() { return qobject_cast<QPushButton*>(QApplication::focusWidget()); }
+QString MenuTitles(frmMain& w) { return w.mnuSettings->title() + w.mnuFile->title() + w.mnuHelp->title(); }
+
+void Activate(QWidget& w) {
+    w.show();
+    QApplication::setActiveWindow(&w);
+    QVERIFY(QTest::qWaitForWindowActive(&w));
 }
+
 void Tick(frmMain& w, TimerId id, int times = 1) {
     for (int k = 0; k < times; ++k) {
-        QVERIFY(std::count_if(w.timers.begin(), w.timers.end(), [](QTimer* t) { return t->isActive(); }) ==
-                1);
-        QVERIFY2(w.timers[id]->isActive(), qPrintable(QString::number(id)));
+        QCOMPARE(int(test::RunningTimer(w)), int(id));
         w.TimerTick(id);
     }
 }
+
+void RunToTurn(frmMain& w) {
+    for (TimerId t; (t = test::RunningTimer(w)) != kTimerCount;) w.TimerTick(t);
+}
+
 }  // namespace
 
 class WindowTest : public QObject {
@@ -51,29 +82,17 @@ class WindowTest : public QObject {
 private slots:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
 
-    // Seat 1 against seat 2. With every shuffle draw 0 the button goes to seat 2 and seat 2's
-    // King-high straight flush beats seat 1's; seat 2 checks flop and turn and calls the river.
     void aHeadsUpHandByClicks() {
         test::ScriptedPlatform platform;
-        frmMain w(QCoreApplication::applicationDirPath().toStdString(), &platform);
-        Game& g = w.game;
-        g.TournamentSize = 8;
-        for (int s = 1; s <= kSeats; ++s)
-            std::tie(g.RosterName[s], g.RosterNumber[s], g.RosterBank[s], g.RosterPlace[s]) =
-                std::make_tuple(s == 1 ? "Ann Player" : "Bob Bluff", s, s <= 2 ? 10000 : 0, s <= 2 ? 0 : s);
-        std::tie(g.PlayersLeft, g.NextFinishPlace, g.HandsPlayed, g.ButtonSeat, g.SmallBlind) =
-            std::make_tuple(2, 2, 1, 1, 100);
-        g.view.cmdDeal.visible = g.view.mnuSave.enabled = true;
-        std::vector<float> draws(52, 0.0f);
-        draws.insert(draws.end(), 4, 0.99f);
-        g.rnd.Script(draws);
+        frmMain w(Here(), &platform);
+        test::SetUpHeadsUp(w);
         platform.betAmounts.push_back(500);
-        w.Redraw();
         w.show();
         QVERIFY(w.cmdDeal->geometry() == w.cmdPlay[1]->geometry() &&
                 w.cmdFloor->geometry() == w.cmdPlay[4]->geometry());
         QTest::mouseClick(w.cmdDeal, Qt::LeftButton);
-        QVERIFY(!Shows(w.cmdDeal) && !w.mnuSave->isEnabled() && Shows(w.lblBlind) && Shows(w.iButton[2]));
+        QVERIFY(!Shows(w.cmdDeal) && !w.mnuSave->isEnabled() && !w.mnuSaveAs->isEnabled() &&
+                Shows(w.lblBlind) && Shows(w.iButton[2]));
         QCOMPARE(w.lblBet[1]->text() + "|" + w.lblBet[2]->text() + "|" + w.lblPot->text(),
                  QString("Small Blind: $100|Large Blind: $200|300"));
         w.mnuSlowSpeed->trigger();  // at once, on the running timer too
@@ -99,7 +118,7 @@ private slots:
             Tick(w, bet == TimerBetFlop ? TimerDealTurn : TimerDealRiver);
         }
         Tick(w, TimerBetRiver);
-        QTest::mouseClick(w.cmdPlay[3], Qt::LeftButton);
+        QTest::mouseClick(w.cmdPlay[3], Qt::LeftButton);  // Bet: the platform answers 500
         Tick(w, TimerBetRiver);
         Tick(w, TimerHandOver);
         QCOMPARE(w.lblPaid[2]->text() + "|" + w.lblBank[1]->text() + "|" + w.lblBank[2]->text(),
@@ -107,11 +126,96 @@ private slots:
         QVERIFY(Shows(w.lblPaid[2]) && !Shows(w.lblPaid[1]) && Shows(w.cmdFloor) && w.mnuSaveAs->isEnabled());
         QCOMPARE(std::make_tuple(platform.sounds.back(),
                                  std::count(platform.sounds.begin(), platform.sounds.end(), "DEAL"),
-                                 platform.betRequests.at(0).MaxBetAmount, g.rnd.Remaining()),
+                                 platform.betRequests.at(0).MaxBetAmount, w.game.rnd.Remaining()),
                  std::make_tuple(std::string("LOSTHAND"), std::ptrdiff_t(9), 9800, std::size_t(0)));
         Shot(w, "window_showdown");
         w.mnuSound->trigger();
-        QVERIFY(!g.SoundOn && !w.mnuSound->isChecked());
+        QVERIFY(!w.game.SoundOn && !w.mnuSound->isChecked());
+    }
+
+    void accessKeysBetweenHandsAndDuringTheTurn_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("onTheFlop");
+        QTest::addColumn<QString>("words");  // lblBet(1) after the press
+        QTest::newRow("Alt+C") << int(Qt::Key_C) << false << "Called $100";
+        QTest::newRow("Alt+F") << int(Qt::Key_F) << false << "Folded";
+        QTest::newRow("Alt+B") << int(Qt::Key_B) << false << "Amount to Call: $100";
+        QTest::newRow("Alt+H") << int(Qt::Key_H) << true << "Checked";
+        QTest::newRow("Space on Fold, moved there") << int(Qt::Key_Space) << true << "Folded";
+    }
+    void accessKeysBetweenHandsAndDuringTheTurn() {
+        QFETCH(int, key);
+        QFETCH(bool, onTheFlop);
+        QFETCH(QString, words);
+        test::ScriptedPlatform platform;
+        frmMain w(Here(), &platform);
+        test::SetUpHeadsUp(w);
+        w.mnuSlowSpeed->trigger();  // no QTimer runs out while keys are pressed
+        Activate(w);
+        // Between hands the buttons take S and V; File and Help keep their letters.
+        QCOMPARE(MenuTitles(w), QString("Settings&File&Help"));
+        QTest::keyClick(&w, Qt::Key_S, Qt::AltModifier);
+        QTest::keyClick(&w, Qt::Key_V, Qt::AltModifier);
+        QVERIFY(
+            QTest::qWaitFor([&] { return platform.standings.size() == 1 && platform.floors.size() == 1; }));
+        QTest::keyClick(&w, Qt::Key_D, Qt::AltModifier);
+        QVERIFY(QTest::qWaitFor([&] { return !Shows(w.cmdDeal); }));
+        RunToTurn(w);
+        if (onTheFlop) {
+            QTest::mouseClick(w.cmdPlay[2], Qt::LeftButton);
+            RunToTurn(w);
+        }
+        QCOMPARE(MenuTitles(w), QString("&SettingsFileHelp"));
+        // A new turn: no button holds the keyboard, and Space presses none.
+        QVERIFY(!FocusOnAButton());
+        const QString before = w.lblBet[1]->text();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QTest::keyClick(&w, Qt::Key_Return);
+        QCOMPARE(w.lblBet[1]->text(), before);
+        if (key == Qt::Key_Space) w.cmdPlay[4]->setFocus(Qt::TabFocusReason);  // moved there this turn
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key),
+                        key == Qt::Key_Space ? Qt::NoModifier : Qt::AltModifier);
+        QTRY_COMPARE(platform.betRequests.size(), size_t(key == Qt::Key_B));
+        QTRY_COMPARE(w.lblBet[1]->text(), words);
+        QTRY_VERIFY(!FocusOnAButton());
+    }
+
+    // The same seeded hands, once undisturbed and once with every form that
+    // the table opens brought up and closed at every step.
+    void openingFormsNeverChangesAHand() {
+        QStringList record[2];
+        uint64_t draws[2];
+        for (int disturbed = 0; disturbed < 2; ++disturbed) {
+            FormsPlatform platform;
+            frmMain w(Here(), &platform);
+            platform.w = &w;
+            w.show();
+            w.game.rnd.SeedDeterministic(11);
+            platform.newGames.push_back({false, "Single Table", "80", "Fast"});
+            w.mnuNew->trigger();
+            while (w.game.HandsPlayed <= 4 && !w.game.GameEnded) {
+                if (disturbed) {
+                    for (QAction* a : {w.mnuStandings, w.mnuFloor, w.mnuHelpIndex, w.mnuRules, w.mnuAbout})
+                        a->trigger();
+                    emit w.lblPot->clicked();
+                }
+                QStringList step;
+                for (int s = 1; s <= kSeats; ++s)
+                    step << w.lblBet[s]->text() << w.lblPaid[s]->text() << w.lblBank[s]->text()
+                         << QString::number(Shows(w.icard[s]));
+                record[disturbed] << step.join('|');
+                if (TimerId t = test::RunningTimer(w); t != kTimerCount)
+                    w.TimerTick(t);
+                else if (Shows(w.cmdDeal))
+                    w.cmdDeal->click();
+                else
+                    w.cmdPlay[w.cmdPlay[2]->isEnabled() ? 2 : 1]->click();
+            }
+            draws[disturbed] = w.game.rnd.Draws();
+        }
+        QVERIFY(record[0].size() > 50);  // four whole hands
+        QCOMPARE(record[1], record[0]);
+        QCOMPARE(draws[1], draws[0]);
     }
 
     // Which exits ask, by the way out and the state of the game, and what each answer does.
@@ -147,10 +251,9 @@ private slots:
             QVERIFY(closeBox ? w.close() == leaves : w.mnuExit_Click() == leaves);
             QCOMPARE(platform.messages.size(), std::size_t(asks));
             if (asks)
-                QCOMPARE(platform.messages[0].text + platform.messages[0].title,
-                         std::string("Do you want to save the current game?Exit"));
-            if (asks)
-                QVERIFY(platform.messages[0].icon == MsgIcon::Information &&
+                QVERIFY(platform.messages[0].text == "Do you want to save the current game?" &&
+                        platform.messages[0].title == "Exit" &&
+                        platform.messages[0].icon == MsgIcon::Information &&
                         platform.messages[0].buttons == MsgButtons::YesNoCancel);
             QFile saved(dir_.filePath("mine.sgf")), settings(dir_.filePath("settings.dft"));
             QCOMPARE(saved.open(QIODevice::ReadOnly) &&
@@ -163,27 +266,35 @@ private slots:
         }
     }
 
-    // Only digits get through; OK or Enter refuses with a message and keeps the dialog, or closes
-    // it with the typed amount plus the $1,200 to call.
+    // Only digits get through, typed or pasted, and Ctrl+A takes them all; OK or Enter refuses
+    // with a message and keeps the dialog, or closes it with the amount plus the $1,200 to call;
+    // Escape closes it with none.
     void theBetDialogByKeys() {
-        const std::tuple<const char*, bool, const char*, const char*, int> cases[] = {
-            // typed, Enter, left, message, amount
-            {"1a2-b.0 0x,", true, "1200", "", 2400},
-            {"", true, "", "No bet entered", -1},
-            {"0", false, "", "No bet entered", -1},
-            {"150", false, "150", "You must bet in multiples of $100.", -1},
-            {"8800", false, "", "You've only got $9,900.", -1},
-            {"8700", true, "8700", "", 9900},
-            {"0", true, "0", "", 0}};
-        for (const auto& [typed, enter, left, message, amount] : cases) {
+        enum { OK, Enter, Escape };
+        const std::tuple<const char*, const char*, int, const char*, const char*, int> cases[] = {
+            // pasted, typed, way out, left, message, amount
+            {"", "1a2-b.0 0x,", Enter, "1200", "", 2400},
+            {"", "", Enter, "", "No bet entered", -1},
+            {"", "0", OK, "", "No bet entered", -1},
+            {"", "150", OK, "150", "You must bet in multiples of $100.", -1},
+            {"", "8800", OK, "", "You've only got $9,900.", -1},
+            {"", "8700", Enter, "8700", "", 9900},
+            {"", "0", Enter, "0", "", 0},
+            {"1200", "", Escape, "1200", "", 0},
+            {"87", "00", Enter, "8700", "", 9900}};
+        for (const auto& [pasted, typed, out, left, message, amount] : cases) {
             test::ScriptedPlatform platform;
             frmBetAmount form(BetAmountRequest{2, 1400, 1200, 9900}, platform);
             Shot(form, "form_bet_amount");
+            QApplication::clipboard()->setText(pasted);
+            QTest::keyClick(form.txtBetAmount, Qt::Key_V, Qt::ControlModifier);
             QTest::keyClicks(form.txtBetAmount, typed);
-            if (enter)
-                QTest::keyClick(form.txtBetAmount, Qt::Key_Return);
-            else
+            QTest::keyClick(form.txtBetAmount, Qt::Key_A, Qt::ControlModifier);
+            QCOMPARE(form.txtBetAmount->selectedText(), form.txtBetAmount->text());
+            if (out == OK)
                 QTest::mouseClick(form.cmdOK, Qt::LeftButton);
+            else
+                QTest::keyClick(form.txtBetAmount, out == Enter ? Qt::Key_Return : Qt::Key_Escape);
             QCOMPARE(std::make_tuple(form.txtBetAmount->text(),
                                      platform.messages.empty() ? "" : platform.messages[0].text,
                                      form.isVisible(), form.BetAmount),
@@ -191,21 +302,31 @@ private slots:
         }
     }
 
+    // New game takes the focus on its first box and closes by a click on OK or by Enter.
     void theOtherDialogs() {
-        frmNewGame newGame(3);
-        Shot(newGame, "form_new_game");
-        QVERIFY(newGame.cbSpeed->currentText() == "Slow" && !newGame.cbPlayers->isEnabled());
-        newGame.cbGameType->setCurrentText("Tournament");
-        newGame.cbPlayers->setCurrentText("1,000");
-        QTest::mouseClick(newGame.lblOK, Qt::LeftButton);
-        QCOMPARE(newGame.Choices().gameType + newGame.Choices().players, std::string("Tournament1,000"));
+        for (bool byEnter : {false, true}) {
+            frmNewGame newGame(3);
+            Activate(newGame);
+            Shot(newGame, "form_new_game");
+            QVERIFY(newGame.focusWidget() == newGame.cbGameType && newGame.cbSpeed->currentText() == "Slow" &&
+                    !newGame.cbPlayers->isEnabled());
+            newGame.cbGameType->setCurrentText("Tournament");
+            newGame.cbPlayers->setCurrentText("1,000");
+            if (byEnter)
+                QTest::keyClick(&newGame, Qt::Key_Return);
+            else
+                QTest::mouseClick(newGame.lblOK, Qt::LeftButton);
+            QCOMPARE(std::make_tuple(newGame.isVisible(), newGame.Choices().cancelled,
+                                     newGame.Choices().gameType + newGame.Choices().players),
+                     std::make_tuple(false, false, std::string("Tournament1,000")));
+        }
         frmPlayerName name;
         Shot(name, "form_player_name");
         QTest::keyClicks(name.txtPlayerName, "Ann \"Ace\" Lee");
         QTest::keyClick(name.txtPlayerName, Qt::Key_Return);
         QCOMPARE(std::make_pair(name.isVisible(), name.Entry()),
                  std::make_pair(false, std::string("Ann Ace Lee")));
-        frmSplash splash(QCoreApplication::applicationDirPath().toStdString() + "/");
+        frmSplash splash(Here());
         Shot(splash, "form_splash");
         splash.timerSplash_Timer();
         QVERIFY(splash.isVisible() && splash.lblVersion->text() == "Version 1.1");
@@ -213,28 +334,20 @@ private slots:
         QVERIFY(!splash.isVisible() && !splash.timerSplash->isActive());
     }
 
-    // stnd.dat of 30: the user out first (last line), player 5 far ahead; the view pages and finds
-    // the user; the floor names a clicked seat; the tip and help forms turn over.
-    void theFieldViewsByClicks() {
-        std::ofstream(Folder() + "stnd.dat", std::ios::binary) << "30,12,3,200\r\n";
-        for (int p = 1; p <= 30; ++p)
-            std::ofstream(Folder() + "stnd.dat", std::ios::app | std::ios::binary)
-                << p << ",\"" << (p == 1 ? "You" : "P" + std::to_string(p)) << "\","
-                << (p == 1   ? 0
-                    : p == 5 ? 1234567
-                             : 10000)
-                << "," << (p == 1 ? 30 : 0) << "," << p << "\r\n";
-        frmRankings standings(Folder() + "stnd.dat");
+    // Thirty players, the user out first: the standings page by clicks and find the user, the
+    // floor names a clicked seat, the tip and help forms turn over; a thousand page by keys.
+    void theFieldViews() {
+        const std::string stnd = test::WriteStnd(dir_.filePath("stnd.dat"), 30);
+        frmRankings standings(stnd);
         Shot(standings, "form_standings");
-        QCOMPARE(standings.lblName[1]->text() + standings.lblBank[1]->text() + standings.lblRank[26]->text() +
-                     standings.lblBank[26]->text(),
-                 QString("P51,234,56730"
-                         "0"));
+        QCOMPARE(standings.lblName[1]->text() + standings.lblBank[1]->text() + "|" +
+                     standings.lblRank[26]->text() + standings.lblBank[26]->text(),
+                 QString("P51,234,567|300"));
         QTest::mouseClick(standings.lblNext, Qt::LeftButton);
         QVERIFY(standings.lblPage->text() == "Page 2" && !standings.lblRank[26]->isVisible() &&
                 !standings.lblNext->isEnabled());
         QCOMPARE(standings.lblName[5]->text() + standings.lblBank[5]->text(), QString("You--"));
-        frmCasinoFloor floor(Folder() + "stnd.dat");
+        frmCasinoFloor floor(stnd);
         Shot(floor, "form_floor");
         QTest::mouseClick(floor.sSeat[1], Qt::LeftButton);  // out: takes no click
         QTest::mouseClick(floor.sSeat[5], Qt::LeftButton);
@@ -253,11 +366,24 @@ private slots:
         QTest::mouseClick(tip.chkLoadTipsAtStartup, Qt::LeftButton);
         QCOMPARE(std::make_tuple(tip.lblTipText->text(), game.TipsAtStartup, game.view.mnuTips.checked),
                  std::make_tuple(QString("Alpha"), false, false));
-        frmHelp help(QCoreApplication::applicationDirPath().toStdString() + "/");
+        frmHelp help(Here());
         help.show();
         QTest::mouseClick(help.cmdNext, Qt::LeftButton);
         Shot(help, "form_help2");
         QVERIFY(help.Page() == 2 && help.cmdPrevious->isEnabled() && !help.cmdNext->isEnabled());
+        frmRankings many(test::WriteStnd(dir_.filePath("stnd1000.dat"), 1000));
+        Activate(many);
+        for (auto [key, page] : {std::pair{Qt::Key_PageDown, 2},
+                                 {Qt::Key_End, 40},
+                                 {Qt::Key_PageUp, 39},
+                                 {Qt::Key_Home, 1},
+                                 {Qt::Key_PageUp, 1},
+                                 {Qt::Key_End, 40}}) {
+            QTest::keyClick(&many, key);
+            QCOMPARE(many.lblPage->text(), QString("Page %1").arg(page));
+        }
+        QTest::keyClick(&many, Qt::Key_Return);
+        QVERIFY(!many.isVisible());
     }
 };
 
