@@ -1,12 +1,14 @@
-// The window and its forms on the offscreen platform: a heads-up hand by clicks,
-// keys and timer ticks, the exit question, the dialogs by keys, the field views
-// by clicks, and forms opened mid-hand. Each form is photographed.
+// The window and its forms on the offscreen platform at a device pixel ratio of 2
+// (unless QT_SCALE_FACTOR says otherwise): a heads-up hand by clicks, keys and
+// timer ticks, forms opened mid-hand, the exit question, the dialogs by keys, the
+// field views by clicks, and the table at several sizes. Each form is photographed.
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QStyle>
 
 #include "tests/views/window_fixture.h"
 #include "views/frm_about.h"
@@ -20,6 +22,7 @@
 #include "views/frm_rules.h"
 #include "views/frm_splash.h"
 #include "views/frm_tip.h"
+#include "views/table_scene.h"
 
 using namespace holdem;
 using test::Shot;
@@ -72,6 +75,36 @@ void RunToTurn(frmMain& w) {
     for (TimerId t; (t = test::RunningTimer(w)) != kTimerCount;) w.TimerTick(t);
 }
 
+// Where a label's text is inked, in the scene's stage.
+QRect TextRect(QLabel* label) {
+    const QFontMetrics m = label->fontMetrics();
+    QSize box(m.horizontalAdvance(label->text()), m.height());
+    QRect at = QStyle::alignedRect(Qt::LeftToRight, label->alignment(), box, label->contentsRect());
+    return m.tightBoundingRect(label->text())
+        .translated(at.left(), at.top() + m.ascent())
+        .translated(label->pos());
+}
+
+// Every seat full, with the longest words a seat can show; the disc at every
+// seat, as if each were the button.
+void FillTable(frmMain& w, bool showdown) {
+    View& v = w.game.view;
+    for (int s = 1; s <= kSeats; ++s) {
+        v.lblName[s] = {"Maximilian Fitzgerald", true};
+        v.lblBank[s] = {"1,000,000", true};  // "Chips: $" stays hidden: it abuts the amount
+        v.lblBet[s] = {showdown ? "Straight Flush" : "Called $99,900 All In", true};
+        v.lblPaid[s] = {"Paid $1,000,000", showdown};
+        v.iButton[s].visible = true;
+        v.icard[s] = v.icard[s + 8] = {"", true, true, false, int16_t(showdown ? s : 0)};
+    }
+    for (int k = 17; k <= 21; ++k) v.icard[k] = {"", showdown, true, false, int16_t(k)};
+    v.lblPot = {"1,000,000", true};
+    v.lblPotLabel = {"Pot: $", true};
+    v.lblBlind = {"Blinds: $35,000 - $70,000", !showdown};
+    v.lblGoodLuck = {"Final Table!", !showdown};
+    w.Redraw();
+}
+
 }  // namespace
 
 class WindowTest : public QObject {
@@ -114,13 +147,11 @@ private slots:
             Tick(w, bet);
             QTest::mouseClick(w.cmdPlay[1], Qt::LeftButton);
             QCOMPARE(w.lblBet[1]->text(), QString("Checked"));
-            Tick(w, bet);
-            Tick(w, bet == TimerBetFlop ? TimerDealTurn : TimerDealRiver);
+            for (TimerId t : {bet, bet == TimerBetFlop ? TimerDealTurn : TimerDealRiver}) Tick(w, t);
         }
         Tick(w, TimerBetRiver);
         QTest::mouseClick(w.cmdPlay[3], Qt::LeftButton);  // Bet: the platform answers 500
-        Tick(w, TimerBetRiver);
-        Tick(w, TimerHandOver);
+        for (TimerId t : {TimerBetRiver, TimerHandOver}) Tick(w, t);
         QCOMPARE(w.lblPaid[2]->text() + "|" + w.lblBank[1]->text() + "|" + w.lblBank[2]->text(),
                  QString("Paid $1,400|9,300|10,700"));
         QVERIFY(Shows(w.lblPaid[2]) && !Shows(w.lblPaid[1]) && Shows(w.cmdFloor) && w.mnuSaveAs->isEnabled());
@@ -129,8 +160,6 @@ private slots:
                                  platform.betRequests.at(0).MaxBetAmount, w.game.rnd.Remaining()),
                  std::make_tuple(std::string("LOSTHAND"), std::ptrdiff_t(9), 9800, std::size_t(0)));
         Shot(w, "window_showdown");
-        w.mnuSound->trigger();
-        QVERIFY(!w.game.SoundOn && !w.mnuSound->isChecked());
     }
 
     void accessKeysBetweenHandsAndDuringTheTurn_data() {
@@ -229,12 +258,11 @@ private slots:
                                 {1, 80000, 5, 1, 0, 1, no, 0},    {0, 5000, 2, 1, 0, 8, cancel, 1},
                                 {1, 5000, 2, 1, 0, 8, cancel, 1}, {0, 5000, 2, 1, 0, 8, yes, 1}};
         for (const auto& [closeBox, userBank, hands, unsaved, ended, left, answer, asks] : cases) {
-            QFile::remove(dir_.filePath("settings.dft"));
-            QFile::remove(dir_.filePath("mine.sgf"));
+            for (const char* file : {"settings.dft", "mine.sgf"}) QFile::remove(dir_.filePath(file));
             test::ScriptedPlatform platform;
             frmMain w(Folder(), &platform);
             int quits = 0;
-            w.onQuit = [&quits] { ++quits; };
+            w.onQuit = [&] { ++quits; };
             w.Start();  // the splash, then the tip, over the shown window
             QVERIFY(platform.infos == std::vector<InfoForm>({InfoForm::Splash, InfoForm::Tip}) &&
                     w.cmdDeal->isHidden());
@@ -334,19 +362,30 @@ private slots:
         QVERIFY(!splash.isVisible() && !splash.timerSplash->isActive());
     }
 
-    // Thirty players, the user out first: the standings page by clicks and find the user, the
-    // floor names a clicked seat, the tip and help forms turn over; a thousand page by keys.
+    // A thousand players, the user out first: the standings page by clicks and keys and find the
+    // user; the floor names a clicked seat; the tip and help forms turn over.
     void theFieldViews() {
-        const std::string stnd = test::WriteStnd(dir_.filePath("stnd.dat"), 30);
+        const std::string stnd = test::WriteStnd(dir_.filePath("stnd.dat"), 1000);
         frmRankings standings(stnd);
+        Activate(standings);
         Shot(standings, "form_standings");
         QCOMPARE(standings.lblName[1]->text() + standings.lblBank[1]->text() + "|" +
                      standings.lblRank[26]->text() + standings.lblBank[26]->text(),
-                 QString("P51,234,567|300"));
+                 QString("P51,234,567|10000"));
         QTest::mouseClick(standings.lblNext, Qt::LeftButton);
-        QVERIFY(standings.lblPage->text() == "Page 2" && !standings.lblRank[26]->isVisible() &&
-                !standings.lblNext->isEnabled());
-        QCOMPARE(standings.lblName[5]->text() + standings.lblBank[5]->text(), QString("You--"));
+        for (auto [key, page] : {std::pair{Qt::Key_PageDown, 3},
+                                 {Qt::Key_End, 40},
+                                 {Qt::Key_PageUp, 39},
+                                 {Qt::Key_Home, 1},
+                                 {Qt::Key_PageUp, 1},
+                                 {Qt::Key_End, 40}}) {
+            QTest::keyClick(&standings, key);
+            QCOMPARE(standings.lblPage->text(), QString("Page %1").arg(page));
+        }
+        QVERIFY(!standings.lblRank[26]->isVisible() && !standings.lblNext->isEnabled());
+        QCOMPARE(standings.lblName[25]->text() + standings.lblBank[25]->text(), QString("You--"));
+        QTest::keyClick(&standings, Qt::Key_Return);
+        QVERIFY(!standings.isVisible());
         frmCasinoFloor floor(stnd);
         Shot(floor, "form_floor");
         QTest::mouseClick(floor.sSeat[1], Qt::LeftButton);  // out: takes no click
@@ -354,7 +393,7 @@ private slots:
         QCOMPARE(std::make_tuple(floor.lblSeatData->text(), floor.sSeat[5]->colour(),
                                  floor.sSeat[1]->colour(), floor.lblPlayers->text()),
                  std::make_tuple(QString("#5 P5   $1,234,567"), QColor(255, 255, 255), QColor(64, 0, 0),
-                                 QString("Players Remaining: 29")));
+                                 QString("Players Remaining: 999")));
         std::ofstream(Folder() + "TIPOFDAY.TXT", std::ios::binary) << "Alpha\r\n\r\nGamma\r\n";
         test::ScriptedPlatform platform;
         Game game(platform);
@@ -371,21 +410,54 @@ private slots:
         QTest::mouseClick(help.cmdNext, Qt::LeftButton);
         Shot(help, "form_help2");
         QVERIFY(help.Page() == 2 && help.cmdPrevious->isEnabled() && !help.cmdNext->isEnabled());
-        frmRankings many(test::WriteStnd(dir_.filePath("stnd1000.dat"), 1000));
-        Activate(many);
-        for (auto [key, page] : {std::pair{Qt::Key_PageDown, 2},
-                                 {Qt::Key_End, 40},
-                                 {Qt::Key_PageUp, 39},
-                                 {Qt::Key_Home, 1},
-                                 {Qt::Key_PageUp, 1},
-                                 {Qt::Key_End, 40}}) {
-            QTest::keyClick(&many, key);
-            QCOMPARE(many.lblPage->text(), QString("Page %1").arg(page));
-        }
-        QTest::keyClick(&many, Qt::Key_Return);
-        QVERIFY(!many.isVisible());
+    }
+
+    void theSceneScalesAndNoTextCoversAnother_data() {
+        QTest::addColumn<QSize>("client");
+        QTest::addColumn<qreal>("scale");
+        QTest::addColumn<bool>("showdown");
+        QTest::newRow("as laid out, dealing") << QSize(755, 508) << 1.0 << false;
+        QTest::newRow("as laid out, showdown") << QSize(755, 508) << 1.0 << true;
+        QTest::newRow("wide, showdown") << QSize(1400, 800) << 800 / 508.0 << true;
+        QTest::newRow("twice, dealing") << QSize(1510, 1016) << 2.0 << false;
+        QTest::newRow("smaller than laid out") << QSize(600, 400) << 1.0 << true;
+    }
+    void theSceneScalesAndNoTextCoversAnother() {
+        QFETCH(QSize, client);
+        QFETCH(qreal, scale);
+        QFETCH(bool, showdown);
+        test::ScriptedPlatform platform;
+        frmMain w(Here(), &platform);
+        w.show();
+        w.resize(w.size() + client - w.centralWidget()->size());
+        QTRY_COMPARE(w.centralWidget()->size(), client.expandedTo(TableScene::kBaseSize));
+        FillTable(w, showdown);
+        TableScene* scene = w.scene();
+        QCOMPARE(scene->Scale(), scale);
+        QCOMPARE(w.icard[17]->geometry(), scene->Map(kit::ToPixels({3000, 3120, 1065, 1440})));
+        QCOMPARE(w.cmdPlay[4]->geometry(), scene->Map(kit::ToPixels({6600, 6600, 975, 375})));
+        QCOMPARE(w.lblPot->font().pixelSize(), qRound(18 * scale));
+        // Texts against texts, and against the cards and discs.
+        QList<QWidget*> all = scene->Stage()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+        for (QWidget* a : all)
+            for (QWidget* b : all) {
+                auto* la = qobject_cast<QLabel*>(a);
+                auto* lb = qobject_cast<QLabel*>(b);
+                bool thing = b->objectName().startsWith('i');
+                if (!la || la->text().isEmpty() || !a->isVisibleTo(scene) || !b->isVisibleTo(scene) ||
+                    !(thing || (lb && a < b && !lb->text().isEmpty())))
+                    continue;
+                QVERIFY2(!TextRect(la).intersects(thing ? b->geometry() : TextRect(lb)),
+                         qPrintable(la->text() + " over " + (thing ? b->objectName() : lb->text())));
+            }
+        test::Shot(w, "scale_" + QString(QTest::currentDataTag()).replace(' ', '_').remove(','));
     }
 };
 
-QTEST_MAIN(WindowTest)
+int main(int argc, char* argv[]) {
+    if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) qputenv("QT_SCALE_FACTOR", "2");
+    QApplication app(argc, argv);
+    WindowTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "window_test.moc"
