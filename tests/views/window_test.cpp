@@ -1,7 +1,7 @@
-// The window and its forms on the offscreen platform at a device pixel ratio of 2
-// (unless QT_SCALE_FACTOR says otherwise): a heads-up hand by clicks, keys and
-// timer ticks, forms opened mid-hand, the exit question, the dialogs by keys, the
-// field views by clicks, and the table at several sizes. Each form is photographed.
+// The window and its forms on the offscreen platform at a device pixel ratio of 2 (unless
+// QT_SCALE_FACTOR says otherwise): a heads-up hand by clicks, keys and ticks, forms opened
+// mid-hand, the exit question, the dialogs by keys, the field views by clicks, the table at
+// several sizes, and the pictures and sounds beside the program. Each form is photographed.
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -9,12 +9,17 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QStyle>
+#include <QTimer>
+#include <QtEndian>
+#include <QtTest>
+#include <fstream>
 
-#include "tests/views/window_fixture.h"
+#include "tests/support/scripted_platform.h"
 #include "views/frm_about.h"
 #include "views/frm_bet_amount.h"
 #include "views/frm_casino_floor.h"
 #include "views/frm_help.h"
+#include "views/frm_main.h"
 #include "views/frm_new_game.h"
 #include "views/frm_player_name.h"
 #include "views/frm_pot_breakdown.h"
@@ -25,10 +30,63 @@
 #include "views/table_scene.h"
 
 using namespace holdem;
-using test::Shot;
-using test::Shows;
-
 namespace {
+
+// Seat 1 against seat 2, the other seats out. With every shuffle draw 0 the button moves to
+// seat 2, and seat 2's King-high straight flush in diamonds beats seat 1's Queen-high one;
+// seat 2 checks flop and turn and calls the river.
+inline void SetUpHeadsUp(frmMain& w) {
+    Game& g = w.game;
+    g.TournamentSize = 8;
+    for (int s = 1; s <= kSeats; ++s) {
+        g.RosterName[s] = g.SeatName[s] = s == 1 ? "Ann Player" : "Bob Bluff";
+        g.RosterNumber[s] = static_cast<int16_t>(s);
+        g.RosterBank[s] = s <= 2 ? 10000 : 0;
+        g.RosterPlace[s] = static_cast<int16_t>(s <= 2 ? 0 : s);
+    }
+    g.PlayersLeft = g.NextFinishPlace = 2;
+    g.HandsPlayed = g.ButtonSeat = 1;
+    g.SmallBlind = 100;
+    g.view.cmdDeal.visible = g.view.cmdStandings.visible = g.view.cmdFloor.visible = true;
+    g.view.mnuSave.enabled = true;
+    std::vector<float> draws(52, 0.0f);
+    draws.insert(draws.end(), 4, 0.99f);
+    g.rnd.Script(draws);
+    w.Redraw();
+}
+
+// The one QTimer running, kTimerCount unless exactly one runs.
+inline TimerId RunningTimer(const frmMain& w) {
+    int found = kTimerCount, count = 0;
+    for (int id = 0; id < kTimerCount; ++id)
+        if (w.timers[id]->isActive()) found = id, ++count;
+    return static_cast<TimerId>(count == 1 ? found : kTimerCount);
+}
+
+inline bool Shows(QWidget* w) { return w->isVisibleTo(w->window()); }
+
+// Shown and saved beside the test program, to be looked at; no visible label cuts its text.
+inline void Shot(QWidget& form, const QString& name) {
+    form.show();
+    QVERIFY(form.grab().save(QCoreApplication::applicationDirPath() + "/" + name + ".png"));
+    for (QLabel* l : form.findChildren<QLabel*>())
+        QVERIFY2(!l->isVisible() || l->fontMetrics().horizontalAdvance(l->text()) <= l->width(),
+                 qPrintable(name + ": " + l->text()));
+}
+
+// n players numbered by line: the user "You" first and out last, "P5" far ahead,
+// the rest still in with 10,000.
+inline std::string WriteStnd(const QString& path, int n) {
+    std::ofstream out(path.toStdString(), std::ios::binary);
+    out << n << ",12,3,200\r\n";
+    for (int p = 1; p <= n; ++p)
+        out << p % 7 << ",\"" << (p == 1 ? "You" : "P" + std::to_string(p)) << "\","
+            << (p == 1   ? 0
+                : p == 5 ? 1234567
+                         : 10000)
+            << "," << (p == 1 ? n : 0) << "," << p << "\r\n";
+    return path.toStdString();
+}
 
 // Opens the real forms, and while each one's own event loop runs, fires the
 // hand timer that is due, as a QTimer would, before Escape closes the form.
@@ -40,13 +98,12 @@ public:
     void ShowFloor(const std::string& path) override { Open(new frmCasinoFloor(path, w)); }
     void ShowInfo(InfoForm f) override {
         const std::string& at = w->game.AppFolder;
-        Open(f == InfoForm::Help    ? static_cast<QDialog*>(new frmHelp(at, w))
-             : f == InfoForm::Rules ? static_cast<QDialog*>(new frmRules(at, w))
-                                    : new frmAbout(at, w));
+        if (f == InfoForm::Help) return Open(new frmHelp(at, w));
+        Open(f == InfoForm::Rules ? static_cast<QDialog*>(new frmRules(at, w)) : new frmAbout(at, w));
     }
     void Open(QDialog* form) {
         QTimer::singleShot(0, form, [this, form] {
-            if (TimerId due = test::RunningTimer(*w); due != kTimerCount) w->TimerTick(due);
+            if (TimerId due = RunningTimer(*w); due != kTimerCount) w->TimerTick(due);
             QTest::keyClick(form, Qt::Key_Escape);
         });
         form->exec();
@@ -66,13 +123,13 @@ void Activate(QWidget& w) {
 
 void Tick(frmMain& w, TimerId id, int times = 1) {
     for (int k = 0; k < times; ++k) {
-        QCOMPARE(int(test::RunningTimer(w)), int(id));
+        QCOMPARE(int(RunningTimer(w)), int(id));
         w.TimerTick(id);
     }
 }
 
 void RunToTurn(frmMain& w) {
-    for (TimerId t; (t = test::RunningTimer(w)) != kTimerCount;) w.TimerTick(t);
+    for (TimerId t; (t = RunningTimer(w)) != kTimerCount;) w.TimerTick(t);
 }
 
 // Where a label's text is inked, in the scene's stage.
@@ -105,6 +162,15 @@ void FillTable(frmMain& w, bool showdown) {
     w.Redraw();
 }
 
+// The pixels of a picture that pass the test, counted by column.
+std::vector<int> Columns(const QImage& image, bool (*test)(QColor)) {
+    std::vector<int> columns(image.width());
+    for (int x = 0; x < image.width(); ++x)
+        for (int y = 0; y < image.height(); ++y) columns[x] += test(image.pixelColor(x, y));
+    return columns;
+}
+bool Red(QColor c) { return c.alpha() > 200 && c.red() > 150 && c.green() < 80 && c.blue() < 80; }
+bool White(QColor c) { return c.alpha() > 200 && c.red() > 230 && c.green() > 230 && c.blue() > 230; }
 }  // namespace
 
 class WindowTest : public QObject {
@@ -118,7 +184,7 @@ private slots:
     void aHeadsUpHandByClicks() {
         test::ScriptedPlatform platform;
         frmMain w(Here(), &platform);
-        test::SetUpHeadsUp(w);
+        SetUpHeadsUp(w);
         platform.betAmounts.push_back(500);
         w.show();
         QVERIFY(w.cmdDeal->geometry() == w.cmdPlay[1]->geometry() &&
@@ -178,17 +244,15 @@ private slots:
         QFETCH(QString, words);
         test::ScriptedPlatform platform;
         frmMain w(Here(), &platform);
-        test::SetUpHeadsUp(w);
+        SetUpHeadsUp(w);
         w.mnuSlowSpeed->trigger();  // no QTimer runs out while keys are pressed
         Activate(w);
         // Between hands the buttons take S and V; File and Help keep their letters.
         QCOMPARE(MenuTitles(w), QString("Settings&File&Help"));
-        QTest::keyClick(&w, Qt::Key_S, Qt::AltModifier);
-        QTest::keyClick(&w, Qt::Key_V, Qt::AltModifier);
-        QVERIFY(
-            QTest::qWaitFor([&] { return platform.standings.size() == 1 && platform.floors.size() == 1; }));
-        QTest::keyClick(&w, Qt::Key_D, Qt::AltModifier);
-        QVERIFY(QTest::qWaitFor([&] { return !Shows(w.cmdDeal); }));
+        for (Qt::Key k : {Qt::Key_S, Qt::Key_V, Qt::Key_D}) QTest::keyClick(&w, k, Qt::AltModifier);
+        QVERIFY(QTest::qWaitFor([&] {
+            return platform.standings.size() == 1 && platform.floors.size() == 1 && !Shows(w.cmdDeal);
+        }));
         RunToTurn(w);
         if (onTheFlop) {
             QTest::mouseClick(w.cmdPlay[2], Qt::LeftButton);
@@ -233,7 +297,7 @@ private slots:
                     step << w.lblBet[s]->text() << w.lblPaid[s]->text() << w.lblBank[s]->text()
                          << QString::number(Shows(w.icard[s]));
                 record[disturbed] << step.join('|');
-                if (TimerId t = test::RunningTimer(w); t != kTimerCount)
+                if (TimerId t = RunningTimer(w); t != kTimerCount)
                     w.TimerTick(t);
                 else if (Shows(w.cmdDeal))
                     w.cmdDeal->click();
@@ -267,30 +331,26 @@ private slots:
             QVERIFY(platform.infos == std::vector<InfoForm>({InfoForm::Splash, InfoForm::Tip}) &&
                     w.cmdDeal->isHidden());
             Game& g = w.game;
-            g.TournamentSize = 8;
             for (int s = 1; s <= kSeats; ++s)
-                std::tie(g.RosterNumber[s], g.RosterBank[s]) = std::make_tuple(s, s == 1 ? userBank : 10000);
-            std::tie(g.HandsPlayed, g.GameUnsaved, g.GameEnded, g.PlayersLeft, g.ButtonSeat) =
-                std::make_tuple(hands, unsaved, ended, left, 3);
+                g.RosterNumber[s] = s, g.RosterBank[s] = s == 1 ? userBank : 10000;
+            std::tie(g.TournamentSize, g.HandsPlayed, g.GameUnsaved, g.GameEnded, g.PlayersLeft,
+                     g.ButtonSeat) = std::make_tuple(8, hands, unsaved, ended, left, 3);
             w.mnuSlowSpeed->trigger();  // the settings of the run are written on the way out
             platform.answers.push_back(MsgAnswer(answer));
             platform.savePaths.push_back(dir_.filePath("mine.sgf").toStdString());
             const bool leaves = !(asks && answer == cancel), saves = asks && answer == yes;
             QVERIFY(closeBox ? w.close() == leaves : w.mnuExit_Click() == leaves);
             QCOMPARE(platform.messages.size(), std::size_t(asks));
-            if (asks)
-                QVERIFY(platform.messages[0].text == "Do you want to save the current game?" &&
-                        platform.messages[0].title == "Exit" &&
-                        platform.messages[0].icon == MsgIcon::Information &&
-                        platform.messages[0].buttons == MsgButtons::YesNoCancel);
+            for (const test::MessageCall& m : platform.messages)
+                QVERIFY(m.text == "Do you want to save the current game?" && m.title == "Exit" &&
+                        m.icon == MsgIcon::Information && m.buttons == MsgButtons::YesNoCancel);
             QFile saved(dir_.filePath("mine.sgf")), settings(dir_.filePath("settings.dft"));
-            QCOMPARE(saved.open(QIODevice::ReadOnly) &&
-                         saved.readAll().startsWith("8," + QByteArray::number(hands) + ",3,"),
-                     saves);
-            QCOMPARE(settings.open(QIODevice::ReadOnly) && settings.readAll() == "3,#TRUE#,#TRUE#\r\n",
-                     leaves);
-            QCOMPARE(std::make_tuple(quits, w.isVisible(), g.GameUnsaved),
-                     std::make_tuple(int(leaves), !leaves, unsaved && !saves));
+            const bool savedGame = saved.open(QIODevice::ReadOnly) &&
+                                   saved.readAll().startsWith("8," + QByteArray::number(hands) + ",3,");
+            const bool savedSettings =
+                settings.open(QIODevice::ReadOnly) && settings.readAll() == "3,#TRUE#,#TRUE#\r\n";
+            QCOMPARE(std::make_tuple(quits, w.isVisible(), g.GameUnsaved, savedGame, savedSettings),
+                     std::make_tuple(int(leaves), !leaves, unsaved && !saves, saves, leaves));
         }
     }
 
@@ -365,7 +425,7 @@ private slots:
     // A thousand players, the user out first: the standings page by clicks and keys and find the
     // user; the floor names a clicked seat; the tip and help forms turn over.
     void theFieldViews() {
-        const std::string stnd = test::WriteStnd(dir_.filePath("stnd.dat"), 1000);
+        const std::string stnd = WriteStnd(dir_.filePath("stnd.dat"), 1000);
         frmRankings standings(stnd);
         Activate(standings);
         Shot(standings, "form_standings");
@@ -433,10 +493,10 @@ private slots:
         QTRY_COMPARE(w.centralWidget()->size(), client.expandedTo(TableScene::kBaseSize));
         FillTable(w, showdown);
         TableScene* scene = w.scene();
-        QCOMPARE(scene->Scale(), scale);
-        QCOMPARE(w.icard[17]->geometry(), scene->Map(kit::ToPixels({3000, 3120, 1065, 1440})));
-        QCOMPARE(w.cmdPlay[4]->geometry(), scene->Map(kit::ToPixels({6600, 6600, 975, 375})));
-        QCOMPARE(w.lblPot->font().pixelSize(), qRound(18 * scale));
+        QCOMPARE(std::make_tuple(scene->Scale(), w.icard[17]->geometry(), w.cmdPlay[4]->geometry(),
+                                 w.lblPot->font().pixelSize()),
+                 std::make_tuple(scale, scene->Map(kit::ToPixels({3000, 3120, 1065, 1440})),
+                                 scene->Map(kit::ToPixels({6600, 6600, 975, 375})), qRound(18 * scale)));
         // Texts against texts, and against the cards and discs.
         QList<QWidget*> all = scene->Stage()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
         for (QWidget* a : all)
@@ -450,7 +510,55 @@ private slots:
                 QVERIFY2(!TextRect(la).intersects(thing ? b->geometry() : TextRect(lb)),
                          qPrintable(la->text() + " over " + (thing ? b->objectName() : lb->text())));
             }
-        test::Shot(w, "scale_" + QString(QTest::currentDataTag()).replace(' ', '_').remove(','));
+        Shot(w, "scale_" + QString(QTest::currentDataTag()).replace(' ', '_').remove(','));
+    }
+    // Drawn at twice the listed size; hearts 1-13 and diamonds 27-39 red; each arrow points its way.
+    void pictures() {
+        QList<QPair<QString, QSize>> pictures = {
+            {"table", {757, 527}},    {"table_winner", {758, 517}}, {"arrow_right", {34, 16}},
+            {"arrow_left", {34, 16}}, {"dealer", {34, 34}},         {"card_back", {73, 97}},
+            {"logo", {109, 108}},     {"icon", {48, 48}},           {"tip", {32, 32}},
+            {"help1", {401, 478}},    {"help2", {397, 425}},        {"rules1", {406, 365}},
+            {"rules2", {402, 407}}};
+        for (int card = 1; card <= 52; ++card)
+            pictures.append({QString("card_%1").arg(card, 2, 10, QChar('0')), {69, 94}});
+        for (const auto& [name, size] : pictures) {
+            const QImage image(QString::fromStdString(Here()) + "pictures/" + name + ".png");
+            QVERIFY2(image.size() == size * 2, qPrintable(name));
+            const auto red = Columns(image, Red), white = Columns(image, White);
+            const int reds = std::accumulate(red.begin(), red.end(), 0), card = name.mid(5).toInt();
+            if (name.startsWith("card_") && card > 0)
+                QVERIFY2((card - 1) / 13 % 2 == 0 ? reds > 200 : reds == 0, qPrintable(name));
+            if (name.startsWith("arrow"))
+                QVERIFY2((std::max_element(white.begin(), white.end()) - white.begin() > image.width() / 2) ==
+                             name.endsWith("right"),
+                         qPrintable(name));
+        }
+    }
+
+    // Plain 16-bit mono PCM at its rate, of about its length, and not next to silent.
+    void sounds() {
+        const std::tuple<const char*, int, double> sounds[] = {
+            {"BUTTONCLICK", 22050, 0.049}, {"DEAL", 44100, 0.178},      {"WONHAND", 44100, 0.513},
+            {"LOSTHAND", 44100, 0.198},    {"MOVED", 44100, 1.683},     {"TWOMOVED", 44100, 2.981},
+            {"THREEMOVED", 44100, 2.542},  {"FOURMOVED", 44100, 2.586}, {"FIVEMOVED", 44100, 2.728},
+            {"SIXMOVED", 44100, 2.299},    {"GAMEOVER", 44100, 3.483},  {"WIN", 44100, 4.621}};
+        for (const auto& [name, rate, length] : sounds) {
+            QFile file(QString::fromStdString(Here()) + "sounds/" + name + ".wav");
+            QVERIFY2(file.open(QIODevice::ReadOnly), name);
+            const QByteArray bytes = file.readAll(), fmt = bytes.mid(bytes.indexOf("fmt ") + 8, 16);
+            const QByteArray samples = bytes.mid(bytes.indexOf("data") + 8);
+            const auto u16 = [&](int at) { return qFromLittleEndian<quint16>(fmt.constData() + at); };
+            QCOMPARE(
+                std::make_tuple(bytes.left(4) + bytes.mid(8, 4), u16(0), u16(2),
+                                qFromLittleEndian<quint32>(fmt.constData() + 4), u16(14)),
+                std::make_tuple(QByteArray("RIFFWAVE"), quint16(1), quint16(1), quint32(rate), quint16(16)));
+            const double seconds = samples.size() / 2.0 / rate;
+            int peak = 0;
+            for (qsizetype i = 0; i + 1 < samples.size(); i += 2)
+                peak = std::max(peak, std::abs(int(qFromLittleEndian<qint16>(samples.constData() + i))));
+            QVERIFY2(seconds > length * 0.6 && seconds < length * 1.6 && peak > 8000, name);
+        }
     }
 };
 
