@@ -1,17 +1,7 @@
-// The window and its forms on the offscreen platform at a device pixel ratio of 2 (unless
-// QT_SCALE_FACTOR says otherwise): a heads-up hand by clicks, keys and ticks, forms opened
-// mid-hand, the exit question, the dialogs by keys, the field views by clicks, the table at
-// several sizes, and the pictures and sounds beside the program. Each form is photographed.
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QStyle>
-#include <QTimer>
-#include <QtEndian>
+// The window, its forms, pictures and sounds on the offscreen platform at a device pixel ratio
+// of 2 (unless QT_SCALE_FACTOR says otherwise). Each form is photographed beside the program.
 #include <QtTest>
+#include <QtWidgets>
 #include <fstream>
 
 #include "tests/support/scripted_platform.h"
@@ -30,23 +20,20 @@
 #include "views/table_scene.h"
 
 using namespace holdem;
-namespace {
 
+namespace {
 // Seat 1 against seat 2, the other seats out. With every shuffle draw 0 the button moves to
 // seat 2, and seat 2's King-high straight flush in diamonds beats seat 1's Queen-high one;
 // seat 2 checks flop and turn and calls the river.
-inline void SetUpHeadsUp(frmMain& w) {
+void SetUpHeadsUp(frmMain& w) {
     Game& g = w.game;
-    g.TournamentSize = 8;
     for (int s = 1; s <= kSeats; ++s) {
         g.RosterName[s] = g.SeatName[s] = s == 1 ? "Ann Player" : "Bob Bluff";
-        g.RosterNumber[s] = static_cast<int16_t>(s);
-        g.RosterBank[s] = s <= 2 ? 10000 : 0;
-        g.RosterPlace[s] = static_cast<int16_t>(s <= 2 ? 0 : s);
+        std::tie(g.RosterNumber[s], g.RosterBank[s], g.RosterPlace[s]) =
+            std::tuple(s, s > 2 ? 0 : 10000, s > 2 ? s : 0);
     }
-    g.PlayersLeft = g.NextFinishPlace = 2;
-    g.HandsPlayed = g.ButtonSeat = 1;
-    g.SmallBlind = 100;
+    std::tie(g.TournamentSize, g.PlayersLeft, g.NextFinishPlace, g.HandsPlayed, g.ButtonSeat, g.SmallBlind) =
+        std::tuple(8, 2, 2, 1, 1, 100);
     g.view.cmdDeal.visible = g.view.cmdStandings.visible = g.view.cmdFloor.visible = true;
     g.view.mnuSave.enabled = true;
     std::vector<float> draws(52, 0.0f);
@@ -54,40 +41,31 @@ inline void SetUpHeadsUp(frmMain& w) {
     g.rnd.Script(draws);
     w.Redraw();
 }
-
 // The one QTimer running, kTimerCount unless exactly one runs.
-inline TimerId RunningTimer(const frmMain& w) {
+TimerId RunningTimer(const frmMain& w) {
     int found = kTimerCount, count = 0;
     for (int id = 0; id < kTimerCount; ++id)
         if (w.timers[id]->isActive()) found = id, ++count;
     return static_cast<TimerId>(count == 1 ? found : kTimerCount);
 }
-
-inline bool Shows(QWidget* w) { return w->isVisibleTo(w->window()); }
-
+bool Shows(QWidget* w) { return w->isVisibleTo(w->window()); }
 // Shown and saved beside the test program, to be looked at; no visible label cuts its text.
-inline void Shot(QWidget& form, const QString& name) {
+void Shot(QWidget& form, const QString& name) {
     form.show();
     QVERIFY(form.grab().save(QCoreApplication::applicationDirPath() + "/" + name + ".png"));
     for (QLabel* l : form.findChildren<QLabel*>())
         QVERIFY2(!l->isVisible() || l->fontMetrics().horizontalAdvance(l->text()) <= l->width(),
                  qPrintable(name + ": " + l->text()));
 }
-
-// n players numbered by line: the user "You" first and out last, "P5" far ahead,
-// the rest still in with 10,000.
-inline std::string WriteStnd(const QString& path, int n) {
+// n players numbered by line: the user "You" first and out last, "P5" far ahead, the rest on 10,000.
+std::string WriteStnd(const QString& path, int n) {
     std::ofstream out(path.toStdString(), std::ios::binary);
     out << n << ",12,3,200\r\n";
     for (int p = 1; p <= n; ++p)
         out << p % 7 << ",\"" << (p == 1 ? "You" : "P" + std::to_string(p)) << "\","
-            << (p == 1   ? 0
-                : p == 5 ? 1234567
-                         : 10000)
-            << "," << (p == 1 ? n : 0) << "," << p << "\r\n";
+            << (p == 5 ? 1234567 : 10000 * (p > 1)) << "," << (p == 1 ? n : 0) << "," << p << "\r\n";
     return path.toStdString();
 }
-
 // Opens the real forms, and while each one's own event loop runs, fires the
 // hand timer that is due, as a QTimer would, before Escape closes the form.
 class FormsPlatform : public test::ScriptedPlatform {
@@ -110,38 +88,29 @@ public:
         delete form;
     }
 };
-
 std::string Here() { return QCoreApplication::applicationDirPath().toStdString() + "/"; }
 bool FocusOnAButton() { return qobject_cast<QPushButton*>(QApplication::focusWidget()); }
 QString MenuTitles(frmMain& w) { return w.mnuSettings->title() + w.mnuFile->title() + w.mnuHelp->title(); }
-
 void Activate(QWidget& w) {
-    w.show();
-    QApplication::setActiveWindow(&w);
+    w.show(), w.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&w));
 }
-
 void Tick(frmMain& w, TimerId id, int times = 1) {
     for (int k = 0; k < times; ++k) {
         QCOMPARE(int(RunningTimer(w)), int(id));
         w.TimerTick(id);
     }
 }
-
 void RunToTurn(frmMain& w) {
     for (TimerId t; (t = RunningTimer(w)) != kTimerCount;) w.TimerTick(t);
 }
-
 // Where a label's text is inked, in the scene's stage.
 QRect TextRect(QLabel* label) {
     const QFontMetrics m = label->fontMetrics();
     QSize box(m.horizontalAdvance(label->text()), m.height());
     QRect at = QStyle::alignedRect(Qt::LeftToRight, label->alignment(), box, label->contentsRect());
-    return m.tightBoundingRect(label->text())
-        .translated(at.left(), at.top() + m.ascent())
-        .translated(label->pos());
+    return m.tightBoundingRect(label->text()).translated(at.topLeft() + label->pos() + QPoint(0, m.ascent()));
 }
-
 // Every seat full, with the longest words a seat can show; the disc at every
 // seat, as if each were the button.
 void FillTable(frmMain& w, bool showdown) {
@@ -161,7 +130,6 @@ void FillTable(frmMain& w, bool showdown) {
     v.lblGoodLuck = {"Final Table!", !showdown};
     w.Redraw();
 }
-
 // The pixels of a picture that pass the test, counted by column.
 std::vector<int> Columns(const QImage& image, bool (*test)(QColor)) {
     std::vector<int> columns(image.width());
@@ -179,16 +147,12 @@ class WindowTest : public QObject {
     std::string Folder() { return dir_.path().toStdString() + "/"; }
 
 private slots:
-    void initTestCase() { QLocale::setDefault(QLocale::c()); }
-
     void aHeadsUpHandByClicks() {
         test::ScriptedPlatform platform;
         frmMain w(Here(), &platform);
         SetUpHeadsUp(w);
         platform.betAmounts.push_back(500);
         w.show();
-        QVERIFY(w.cmdDeal->geometry() == w.cmdPlay[1]->geometry() &&
-                w.cmdFloor->geometry() == w.cmdPlay[4]->geometry());
         QTest::mouseClick(w.cmdDeal, Qt::LeftButton);
         QVERIFY(!Shows(w.cmdDeal) && !w.mnuSave->isEnabled() && !w.mnuSaveAs->isEnabled() &&
                 Shows(w.lblBlind) && Shows(w.iButton[2]));
@@ -227,7 +191,6 @@ private slots:
                  std::make_tuple(std::string("LOSTHAND"), std::ptrdiff_t(9), 9800, std::size_t(0)));
         Shot(w, "window_showdown");
     }
-
     void accessKeysBetweenHandsAndDuringTheTurn_data() {
         QTest::addColumn<int>("key");
         QTest::addColumn<bool>("onTheFlop");
@@ -272,7 +235,6 @@ private slots:
         QTRY_COMPARE(w.lblBet[1]->text(), words);
         QTRY_VERIFY(!FocusOnAButton());
     }
-
     // The same seeded hands, once undisturbed and once with every form that
     // the table opens brought up and closed at every step.
     void openingFormsNeverChangesAHand() {
@@ -310,7 +272,6 @@ private slots:
         QCOMPARE(record[1], record[0]);
         QCOMPARE(draws[1], draws[0]);
     }
-
     // Which exits ask, by the way out and the state of the game, and what each answer does.
     void theExitQuestion() {
         const int no = int(MsgAnswer::No), yes = int(MsgAnswer::Yes), cancel = int(MsgAnswer::Cancel);
@@ -353,7 +314,6 @@ private slots:
                      std::make_tuple(int(leaves), !leaves, unsaved && !saves, saves, leaves));
         }
     }
-
     // Only digits get through, typed or pasted, and Ctrl+A takes them all; OK or Enter refuses
     // with a message and keeps the dialog, or closes it with the amount plus the $1,200 to call;
     // Escape closes it with none.
@@ -379,17 +339,14 @@ private slots:
             QTest::keyClicks(form.txtBetAmount, typed);
             QTest::keyClick(form.txtBetAmount, Qt::Key_A, Qt::ControlModifier);
             QCOMPARE(form.txtBetAmount->selectedText(), form.txtBetAmount->text());
-            if (out == OK)
-                QTest::mouseClick(form.cmdOK, Qt::LeftButton);
-            else
-                QTest::keyClick(form.txtBetAmount, out == Enter ? Qt::Key_Return : Qt::Key_Escape);
+            out == OK ? QTest::mouseClick(form.cmdOK, Qt::LeftButton)
+                      : QTest::keyClick(form.txtBetAmount, out == Enter ? Qt::Key_Return : Qt::Key_Escape);
             QCOMPARE(std::make_tuple(form.txtBetAmount->text(),
                                      platform.messages.empty() ? "" : platform.messages[0].text,
                                      form.isVisible(), form.BetAmount),
                      std::make_tuple(QString(left), std::string(message), amount < 0, std::max(amount, 0)));
         }
     }
-
     // New game takes the focus on its first box and closes by a click on OK or by Enter.
     void theOtherDialogs() {
         for (bool byEnter : {false, true}) {
@@ -400,10 +357,8 @@ private slots:
                     !newGame.cbPlayers->isEnabled());
             newGame.cbGameType->setCurrentText("Tournament");
             newGame.cbPlayers->setCurrentText("1,000");
-            if (byEnter)
-                QTest::keyClick(&newGame, Qt::Key_Return);
-            else
-                QTest::mouseClick(newGame.lblOK, Qt::LeftButton);
+            byEnter ? QTest::keyClick(&newGame, Qt::Key_Return)
+                    : QTest::mouseClick(newGame.lblOK, Qt::LeftButton);
             QCOMPARE(std::make_tuple(newGame.isVisible(), newGame.Choices().cancelled,
                                      newGame.Choices().gameType + newGame.Choices().players),
                      std::make_tuple(false, false, std::string("Tournament1,000")));
@@ -421,7 +376,6 @@ private slots:
         QTest::keyClick(&splash, Qt::Key_Space);
         QVERIFY(!splash.isVisible() && !splash.timerSplash->isActive());
     }
-
     // A thousand players, the user out first: the standings page by clicks and keys and find the
     // user; the floor names a clicked seat; the tip and help forms turn over.
     void theFieldViews() {
@@ -433,12 +387,10 @@ private slots:
                      standings.lblRank[26]->text() + standings.lblBank[26]->text(),
                  QString("P51,234,567|10000"));
         QTest::mouseClick(standings.lblNext, Qt::LeftButton);
-        for (auto [key, page] : {std::pair{Qt::Key_PageDown, 3},
-                                 {Qt::Key_End, 40},
-                                 {Qt::Key_PageUp, 39},
-                                 {Qt::Key_Home, 1},
-                                 {Qt::Key_PageUp, 1},
-                                 {Qt::Key_End, 40}}) {
+        const std::pair<Qt::Key, int> keys[] = {{Qt::Key_PageDown, 3}, {Qt::Key_End, 40},
+                                                {Qt::Key_PageUp, 39},  {Qt::Key_Home, 1},
+                                                {Qt::Key_PageUp, 1},   {Qt::Key_End, 40}};
+        for (auto [key, page] : keys) {
             QTest::keyClick(&standings, key);
             QCOMPARE(standings.lblPage->text(), QString("Page %1").arg(page));
         }
@@ -471,7 +423,6 @@ private slots:
         Shot(help, "form_help2");
         QVERIFY(help.Page() == 2 && help.cmdPrevious->isEnabled() && !help.cmdNext->isEnabled());
     }
-
     void theSceneScalesAndNoTextCoversAnother_data() {
         QTest::addColumn<QSize>("client");
         QTest::addColumn<qreal>("scale");
@@ -498,12 +449,11 @@ private slots:
                  std::make_tuple(scale, scene->Map(kit::ToPixels({3000, 3120, 1065, 1440})),
                                  scene->Map(kit::ToPixels({6600, 6600, 975, 375})), qRound(18 * scale)));
         // Texts against texts, and against the cards and discs.
-        QList<QWidget*> all = scene->Stage()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+        const QList<QWidget*> all = scene->Stage()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
         for (QWidget* a : all)
             for (QWidget* b : all) {
-                auto* la = qobject_cast<QLabel*>(a);
-                auto* lb = qobject_cast<QLabel*>(b);
-                bool thing = b->objectName().startsWith('i');
+                auto *la = qobject_cast<QLabel*>(a), *lb = qobject_cast<QLabel*>(b);
+                const bool thing = b->objectName().startsWith('i');
                 if (!la || la->text().isEmpty() || !a->isVisibleTo(scene) || !b->isVisibleTo(scene) ||
                     !(thing || (lb && a < b && !lb->text().isEmpty())))
                     continue;
@@ -535,7 +485,6 @@ private slots:
                          qPrintable(name));
         }
     }
-
     // Plain 16-bit mono PCM at its rate, of about its length, and not next to silent.
     void sounds() {
         const std::tuple<const char*, int, double> sounds[] = {
@@ -565,6 +514,7 @@ private slots:
 int main(int argc, char* argv[]) {
     if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) qputenv("QT_SCALE_FACTOR", "2");
     QApplication app(argc, argv);
+    QLocale::setDefault(QLocale::c());
     WindowTest test;
     return QTest::qExec(&test, argc, argv);
 }
