@@ -26,19 +26,18 @@ namespace {
 // straight flush in diamonds beats seat 1's Queen-high one; seat 2 checks, checks and calls.
 void SetUpHeadsUp(frmMain& w) {
     Game& g = w.game;
-    for (int s = 1; s <= kSeats; ++s) {
-        g.RosterName[s] = g.SeatName[s] = s == 1 ? "Ann Player" : "Bob Bluff";
-        std::tie(g.RosterNumber[s], g.RosterBank[s], g.RosterPlace[s]) =
-            std::tuple(s, s > 2 ? 0 : 10000, s > 2 ? s : 0);
-    }
+    for (int s = 1; s <= kSeats; ++s)
+        std::tie(g.RosterName[s], g.RosterNumber[s], g.RosterBank[s], g.RosterPlace[s]) =
+            std::tuple(s == 1 ? "Ann Player" : "Bob Bluff", s, s > 2 ? 0 : 10000, s > 2 ? s : 0);
     std::tie(g.TournamentSize, g.PlayersLeft, g.NextFinishPlace, g.HandsPlayed, g.ButtonSeat, g.SmallBlind) =
         std::tuple(8, 2, 2, 1, 1, 100);
-    g.view.cmdDeal.visible = g.view.cmdStandings.visible = g.view.cmdFloor.visible = true;
-    g.view.mnuSave.enabled = true;
+    g.view.mnuSave.enabled = g.view.cmdDeal.visible = g.view.cmdStandings.visible = g.view.cmdFloor.visible =
+        true;
     std::vector<float> draws(52, 0.0f);
     draws.insert(draws.end(), 4, 0.99f);
     g.rnd.Script(draws);
     w.Redraw();
+    w.show();
 }
 // The one QTimer running, kTimerCount unless exactly one runs.
 TimerId RunningTimer(const frmMain& w) {
@@ -82,8 +81,7 @@ public:
             if (TimerId due = RunningTimer(*w); due != kTimerCount) w->TimerTick(due);
             QTest::keyClick(form, Qt::Key_Escape);
         });
-        form->exec();
-        delete form;
+        std::unique_ptr<QDialog>(form)->exec();
     }
 };
 std::string Here() { return QCoreApplication::applicationDirPath().toStdString() + "/"; }
@@ -94,10 +92,8 @@ void Activate(QWidget& w) {
     QVERIFY(QTest::qWaitForWindowActive(&w));
 }
 void Tick(frmMain& w, TimerId id, int times = 1) {
-    for (int k = 0; k < times; ++k) {
-        QCOMPARE(int(RunningTimer(w)), int(id));
-        w.TimerTick(id);
-    }
+    for (int k = 0; k < times; ++k)
+        QVERIFY2(RunningTimer(w) == id && (w.TimerTick(id), true), qPrintable(QString::number(id)));
 }
 void RunToTurn(frmMain& w) {
     for (TimerId t; (t = RunningTimer(w)) != kTimerCount;) w.TimerTick(t);
@@ -148,7 +144,6 @@ private slots:
         frmMain w(Here(), &platform);
         SetUpHeadsUp(w);
         platform.betAmounts.push_back(500);
-        w.show();
         QTest::mouseClick(w.cmdDeal, Qt::LeftButton);
         QVERIFY(!Shows(w.cmdDeal) && !w.mnuSave->isEnabled() && !w.mnuSaveAs->isEnabled() &&
                 Shows(w.lblBlind) && Shows(w.iButton[2]));
@@ -252,10 +247,8 @@ private slots:
                 record[disturbed] << step.join('|');
                 if (TimerId t = RunningTimer(w); t != kTimerCount)
                     w.TimerTick(t);
-                else if (Shows(w.cmdDeal))
-                    w.cmdDeal->click();
-                else
-                    w.cmdPlay[w.cmdPlay[2]->isEnabled() ? 2 : 1]->click();
+                else  // deal, or call or check
+                    (Shows(w.cmdDeal) ? w.cmdDeal : w.cmdPlay[w.cmdPlay[2]->isEnabled() ? 2 : 1])->click();
             }
             record[disturbed] << QString::number(w.game.rnd.Draws());
         }
@@ -279,7 +272,7 @@ private slots:
             int quits = 0;
             w.onQuit = [&] { ++quits; };
             w.Start();  // the splash, then the tip, over the shown window
-            QVERIFY(platform.infos == std::vector<InfoForm>({InfoForm::Splash, InfoForm::Tip}) &&
+            QVERIFY((platform.infos == std::vector{InfoForm::Splash, InfoForm::Tip}) &&
                     w.cmdDeal->isHidden());
             Game& g = w.game;
             for (int s = 1; s <= kSeats; ++s)
@@ -305,9 +298,8 @@ private slots:
                 std::make_tuple(std::size_t(asks), int(leaves), !leaves, unsaved && !saves, saves, leaves));
         }
     }
-    // Only digits get through, typed or pasted, and Ctrl+A takes them all; OK or Enter refuses
-    // with a message and keeps the dialog, or closes it with the amount plus the $1,200 to call;
-    // Escape closes it with none.
+    // Only digits get through, typed or pasted; Ctrl+A takes them all. OK or Enter refuses with a
+    // message, or closes with the amount plus the $1,200 to call; Escape closes with none.
     void theBetDialogByKeys() {
         enum { OK, Enter, Escape };
         const std::tuple<const char*, const char*, int, const char*, const char*, int> cases[] = {
@@ -410,9 +402,8 @@ private slots:
         QCOMPARE(std::make_tuple(tip.lblTipText->text(), game.TipsAtStartup, game.view.mnuTips.checked),
                  std::make_tuple(QString("Alpha"), false, false));
         frmHelp help(Here());
-        help.show();
+        Shot(help, "form_help");
         QTest::mouseClick(help.cmdNext, Qt::LeftButton);
-        Shot(help, "form_help2");
         QVERIFY(help.Page() == 2 && help.cmdPrevious->isEnabled() && !help.cmdNext->isEnabled());
     }
     void theSceneScalesAndNoTextCoversAnother() {
@@ -435,7 +426,6 @@ private slots:
                                      w.lblPot->font().pixelSize()),
                      std::make_tuple(scale, scene->Map(kit::ToPixels({3000, 3120, 1065, 1440})),
                                      scene->Map(kit::ToPixels({6600, 6600, 975, 375})), qRound(18 * scale)));
-            // Texts against texts, and against the cards and discs.
             const QList<QWidget*> all = scene->Stage()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
             for (QWidget* a : all)
                 for (QWidget* b : all) {
