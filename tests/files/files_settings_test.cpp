@@ -79,15 +79,31 @@ TEST_F(SettingsTest, MenuEntriesSetTheTimersTheMarksAndTheFlags) {
     }
 }
 
-// A file in the way of AppFolder makes it unwritable, even for root; settings then stay in the user folder.
-TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolderAndStaysThere) {
+// A file in the way of AppFolder makes it unwritable, even for root: standings and settings go to the
+// user folder, and settings stay there.
+TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolder) {
     WriteAll(dir.File("blocked"), "not a folder");
     std::tie(g.AppFolder, g.UserDataFolder) = std::make_tuple(dir.File("blocked/"), dir.File("user/data/"));
+    FillRoster(g, 8);
+    g.cmdFloor_Click();
+    EXPECT_EQ(std::make_tuple(g.StandingsPath, p.floors, ReadAll(g.StandingsPath).substr(0, 11)),
+              std::make_tuple(dir.File("user/data/stnd.dat"), std::vector<std::string>{g.StandingsPath},
+                              "8,0,0,0\r\n1,"));
     g.ReadSettings();
     g.mnuFastSpeed_Click();
     g.WriteSettings();
     EXPECT_EQ(ReadAll(dir.File("user/data/settings.dft")), "1,#TRUE#,#TRUE#\r\n");
-    g.AppFolder = dir.Folder();
+    // Nowhere to write: a message, and neither view opens on an old file.
+    for (auto [click, title] : {std::make_pair(&Game::cmdStandings_Click, "Standings"),
+                                std::make_pair(&Game::mnuFloor_Click, "View Floor")}) {
+        std::tie(g.UserDataFolder, g.StandingsPath) = std::make_tuple(dir.File("blocked/also/"), "");
+        (g.*click)();
+        ExpectMessage("The list of players could not be written to " + dir.File("blocked") + "/stnd.dat.",
+                      title);
+    }
+    EXPECT_EQ(std::make_pair(p.standings.size(), p.floors.size()),
+              std::make_pair(std::size_t{0}, std::size_t{1}));
+    std::tie(g.AppFolder, g.UserDataFolder) = std::make_tuple(dir.Folder(), dir.File("user/data/"));
     WriteAll(dir.File("settings.dft"), "3,#TRUE#,#TRUE#\r\n");
     g.ReadSettings();
     g.mnuSound_Click();
@@ -136,25 +152,6 @@ TEST_F(SettingsTest, StandingsAndFloorWriteTheWholeRosterFirst) {
     EXPECT_EQ(p.standings, std::vector<std::string>(2, dir.File("stnd.dat")));
     EXPECT_EQ(p.floors, std::vector<std::string>(3, dir.File("stnd.dat")));
     EXPECT_TRUE(p.messages.empty());
-}
-
-TEST_F(SettingsTest, StandingsGoToTheUserFolderWhereAppFolderRefuses) {
-    WriteAll(dir.File("blocked"), "not a folder");
-    std::tie(g.AppFolder, g.UserDataFolder) = std::make_tuple(dir.File("blocked/"), dir.File("per-user/"));
-    FillRoster(g, 8);
-    g.cmdFloor_Click();
-    EXPECT_EQ(std::make_tuple(g.StandingsPath, p.floors, ReadAll(g.StandingsPath).substr(0, 11)),
-              std::make_tuple(dir.File("per-user/stnd.dat"), std::vector<std::string>{g.StandingsPath},
-                              "8,0,0,0\r\n1,"));
-    // Nowhere to write: a message, and neither view opens on an old file.
-    for (auto [click, title] : {std::make_pair(&Game::cmdStandings_Click, "Standings"),
-                                std::make_pair(&Game::mnuFloor_Click, "View Floor")}) {
-        std::tie(g.UserDataFolder, g.StandingsPath) = std::make_tuple(dir.File("blocked/also/"), "");
-        (g.*click)();
-        ExpectMessage("The list of players could not be written to " + dir.File("blocked") + "/stnd.dat.",
-                      title);
-    }
-    EXPECT_EQ(std::make_pair(p.standings.size(), p.floors.size()), std::make_pair(std::size_t{0}, std::size_t{1}));
 }
 
 // The statistics file: read back whole after a restart, or the defaults for anything doubtful.
