@@ -18,7 +18,7 @@ seed = int(args[args.index('--seed') + 1]) if '--seed' in args else 1
 only = set(args[args.index('--only') + 1].split(',')) if '--only' in args else None
 
 FILES = ['files/seq_text.cpp', 'files/roster_file.cpp', 'files/new_game.cpp', 'files/settings.cpp',
-         'files/standings_file.cpp']
+         'files/standings_file.cpp', 'files/safe_file.cpp', 'files/statistics.cpp']
 
 OPS = [(r'<=', '<'), (r'>=', '>'), (r'(?<![<>=!])<(?![<=])', '<='), (r'(?<![<>=-])>(?![>=])', '>='),
        (r'==', '!='), (r'!=', '=='), (r'&&', '||'), (r'\|\|', '&&'), (r'\btrue\b', 'false'),
@@ -91,7 +91,7 @@ for k in ids:
         if rc != 0:
             status = 'invalid'
         else:
-            rc, log = run(f'cd {build}/bin && ./{target} --gtest_filter="{gfilter}" --gtest_brief=1', 300)
+            rc, log = run(f'cd {build}/bin && ./{target} --gtest_filter="{gfilter}" --gtest_brief=1 --gtest_fail_fast', 300)
             status = 'survived' if rc == 0 else 'killed'
     finally:
         open(path, 'w').write(orig)

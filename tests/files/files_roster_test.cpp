@@ -136,37 +136,30 @@ TEST_F(RosterTest, SaveWritesEveryFieldInItsPlaceAndOpensBackWhole) {
 }
 
 TEST_F(RosterTest, OpenTakesEveryFileWithinTheRangesAndRefusesTheRest) {
-    auto game = [](int hands, int button, int blind, int bank = 10000,
-                   std::string last = "8,\"P8\",10000,0,8") {
+    // A header of size, hands, button, blind over eight players; the last one's line as given.
+    auto game = [](const std::string& header, int bank = 10000, std::string last = "8,\"P8\",10000,0,8") {
         auto lines = FieldLines(8, bank);
         lines[7] = last;
-        return RosterText(8, hands, button, blind, lines);
+        return header + "\r\n" + RosterText(8, 0, 0, 0, lines).substr(9);
     };
     // 16,777,200 chips in all; 2^24 is the most a Single holds exactly.
-    const std::string most = game(5, 2, 100, 2097200, "8,\"P8\",2096800,0,8");
-    const std::string opens[] = {game(5, 2, 100),
-                                 game(32766, 1, 100),
-                                 game(5, 8, 100),
-                                 most,
-                                 game(5, 2, 100, 10000, "8,\"P8\",0,8,8"),
-                                 Field(8, "iioooooo", 'o'),
-                                 Field(8, "ziiiiiii", 'i'),
-                                 RosterText(1000, 5, 2, 100, FieldLines(1000))};
-    const std::string refused[] = {"",
-                                   most.substr(0, most.size() / 2),
-                                   RosterText(1000, 5, 2, 100, FieldLines(999)),
-                                   RosterText(50, 5, 2, 100, FieldLines(50)),
-                                   game(32767, 2, 100),
-                                   game(-1, 2, 100),
-                                   game(5, 0, 100),
-                                   game(5, 9, 100),
-                                   game(5, 2, 0),
-                                   game(5, 2, 100, -100),
-                                   game(5, 2, 100, 2097200, "8,\"P8\",2096900,0,8"),
-                                   game(5, 2, 100, 10000, "8,\"P8\",0,9,8"),
-                                   "8,5,2,100\r\n1,\"Open,10000,0,1\r\n",
-                                   "8,5,2,100\r\n1,\"A\",ten,0,1\r\n",
-                                   "8,5,2,100\r\n70000,\"A\",10000,0,1\r\n"};
+    const std::string most = game("8,5,2,100", 2097200, "8,\"P8\",2096800,0,8");
+    std::vector<std::string> opens = {most, game("8,5,2,100", 10000, "8,\"P8\",0,8,8"),
+                                      Field(8, "iioooooo", 'o'), Field(8, "ziiiiiii", 'i'),
+                                      RosterText(1000, 5, 2, 100, FieldLines(1000))};
+    std::vector<std::string> refused = {"",
+                                        most.substr(0, most.size() / 2),
+                                        RosterText(1000, 5, 2, 100, FieldLines(999)),
+                                        RosterText(50, 5, 2, 100, FieldLines(50)),
+                                        game("8,5,2,100", -100),
+                                        game("8,5,2,100", 2097200, "8,\"P8\",2096900,0,8"),
+                                        game("8,5,2,100", 10000, "8,\"P8\",0,9,8"),
+                                        "8,5,2,100\r\n1,\"Open,10000,0,1\r\n",
+                                        "8,5,2,100\r\n1,\"A\",ten,0,1\r\n",
+                                        "8,5,2,100\r\n70000,\"A\",10000,0,1\r\n"};
+    for (const char* header : {"8,5,2,100", "8,32766,1,100", "8,5,8,100"}) opens.push_back(game(header));
+    for (const char* header : {"8,32767,2,100", "8,-1,2,100", "8,5,0,100", "8,5,9,100", "8,5,2,0"})
+        refused.push_back(game(header));
     for (const std::string& text : opens) {
         SCOPED_TRACE(text.substr(0, 60));
         Open(text, LoadDraws());
@@ -334,25 +327,6 @@ TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
     EXPECT_EQ(
         std::make_tuple(g.RosterName[80], g.RosterName[81], g.view.lblBlind.text, g.view.lblGoodLuck.text),
         std::make_tuple("Player No. 80", "", "Blinds: $100 - $200", "Good Luck!"));
-}
-
-TEST_F(NewGameTest, MissingShortOrEmptyGameDataGivesAMessageAndNoGame) {
-    const std::string cases[] = {"", RosterText(1000, 0, 1, 100, FieldLines(50)),
-                                 RosterText(1000, 0, 1, 100, FieldLines(1000, 0))};
-    for (const std::string& text : cases) {
-        WriteAll(dir.File("gamedata.dat"), text);
-        if (text.empty()) std::filesystem::remove(dir.File("gamedata.dat"));
-        Choose(false);
-        std::tie(g.GameUnsaved, g.PlayersLeft, g.view.cmdDeal.visible) = std::make_tuple(true, 5, true);
-        g.mnuNew_Click();
-        EXPECT_EQ(p.messages.at(0).text.substr(0, 65 + dir.Folder().size()),
-                  "The players of a new game could not be read from gamedata.dat in\n" + dir.Folder());
-        ExpectMessage("The players of a new game could not be read from gamedata.dat in", "Game Not Started");
-        // Without its players there is no game: nothing to deal, to save or to ask about at exit.
-        EXPECT_EQ(std::make_tuple(NoHandDealt(g), int{g.TournamentSize}, int{g.HandsPlayed},
-                                  int{g.PlayersLeft}, g.GameUnsaved),
-                  std::make_tuple(true, 0, 0, 0, false));
-    }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <random>
 #include <sstream>
 
 #include "files/safe_file.h"
@@ -12,6 +13,7 @@
 #include "views/tip_model.h"
 
 namespace holdem::test {
+namespace {
 
 // Everything of a game that a failed open or save must leave alone.
 std::string Snapshot(const Game& g) {
@@ -47,8 +49,6 @@ void FinishHand(Game& g) {
     }
     ASSERT_TRUE(g.view.cmdDeal.visible || g.GameEnded);
 }
-
-namespace {
 
 using SafetyTest = FileTest;
 
@@ -90,16 +90,30 @@ TEST_F(SafetyTest, RefusedOpenOrNewGameLeavesTheGameInPlayAsItWas) {
             EXPECT_EQ(Snapshot(g), before);
         }
     }
-    // A new game whose players cannot be read: asked, refused, and play goes on.
-    WriteAll(dir.File("gamedata.dat"), RosterText(1000, 0, 1, 100, FieldLines(50)));
-    p.answers = {MsgAnswer::Yes, MsgAnswer::No};
-    p.newGames.push_back({false, "Tournament", "80", "Slow"});
-    const std::string before = Snapshot(g);
-    g.mnuNew_Click();
-    ASSERT_EQ(p.messages.size(), 3u);
-    EXPECT_NE(p.messages[2].text.find("\nLine 52, item 1: the file ends before this item.\n"),
-              std::string::npos);
-    EXPECT_TRUE(Snapshot(g) == before && p.playerNameCalls == 0);
+    // A new game whose players cannot be read (none, too few, no chips): asked, refused, and play goes on.
+    const std::pair<std::string, std::string> games[] = {
+        {"", ""},
+        {RosterText(1000, 0, 1, 100, FieldLines(50)), "\nLine 52, item 1: the file ends before this item.\n"},
+        {RosterText(1000, 0, 1, 100, FieldLines(1000, 0)), ""}};
+    for (const auto& [text, reason] : games) {
+        SCOPED_TRACE(text.size());
+        std::filesystem::remove(dir.File("gamedata.dat"));
+        if (!text.empty()) WriteAll(dir.File("gamedata.dat"), text);
+        p.answers = {MsgAnswer::Yes, MsgAnswer::No};
+        p.newGames.push_back({false, "Tournament", "80", "Slow"});
+        const std::string before = Snapshot(g);
+        g.mnuNew_Click();
+        ASSERT_EQ(p.messages.size(), 3u);
+        const MessageCall& m = p.messages[2];
+        EXPECT_EQ(
+            std::make_tuple(m.text.substr(0, 65 + dir.Folder().size()), m.title, m.icon, m.text.find(reason)),
+            std::make_tuple(
+                "The players of a new game could not be read from gamedata.dat in\n" + dir.Folder(),
+                "Game Not Started", MsgIcon::Exclamation,
+                reason.empty() ? 0 : m.text.find('\n', 65 + dir.Folder().size())));
+        EXPECT_TRUE(Snapshot(g) == before && p.playerNameCalls == 0);
+        p.messages.clear();
+    }
     // The hand goes on, and Save writes to the game's own file without asking.
     FinishHand(g);
     p.messages.clear();
@@ -194,6 +208,92 @@ TEST_F(SafetyTest, EveryFileOverItsLimitIsRefusedAndOneAtItsLimitRead) {
         EXPECT_EQ(box.lblTipText,
                   over ? "Cannot read " + tips + ": the file is larger than 1 MB." : "One tip");
     }
+}
+
+// Seeded mutations of every kind of file the game reads, each read or refused; a refused saved game
+// or list of players leaves the game in play as it was. Also run under the sanitizers.
+constexpr int kInputs = 2000;
+
+// One damage, or four at once: cut short, a byte changed, a number out of range
+// or odd, a delimiter or blanks put in, a line lost or doubled.
+std::string Mutate(std::string text, std::mt19937& rng) {
+    static const char* const kNumbers[] = {"99999999999", "2147483648", "-32769", "32767",   "0",
+                                           "-1",          "1000",       "150",    "16777217"};
+    const auto digit = [&](std::size_t i) { return i < text.size() && text[i] >= '0' && text[i] <= '9'; };
+    for (int n = rng() % 4 == 0 ? 4 : 1; n > 0; --n) {
+        std::size_t at = rng() % (text.size() + 1), end = at;
+        const unsigned kind = rng() % 5;
+        if (kind == 0) text.resize(at);
+        if (kind == 1 && at < text.size()) text[at] = static_cast<char>(rng() % 256);
+        if (kind == 2) {
+            while (at < text.size() && !digit(at)) ++at;
+            for (end = at; digit(end);) ++end;
+            text.replace(at, end - at, kNumbers[rng() % std::size(kNumbers)]);
+        }
+        if (kind == 3)
+            text.insert(at, rng() % 2 ? std::string(1, "\",#\n"[rng() % 4]) : std::string(rng() % 64, ' '));
+        if (kind == 4 && (at = text.find('\n', at)) != std::string::npos &&
+            (end = text.find('\n', at + 1)) != std::string::npos)
+            rng() % 2 ? text.erase(at + 1, end - at) : text.insert(at + 1, text.substr(at + 1, end - at));
+    }
+    return text;
+}
+
+using MutationTest = FileTest;
+
+TEST_F(MutationTest, SavedGamesAndListsOfPlayersOpenOrLeaveTheGameInPlayAsItWas) {
+    std::mt19937 rng(20240607);
+    auto lines = FieldLines(200);
+    for (int p = 3; p <= 200; p += 5)
+        lines[p - 1] = PlayerLine(p, "Out, " + std::to_string(p), 0, 200 - p / 5, p);
+    const std::string saved = RosterText(200, 40, 4, 400, lines);
+    const std::string gameData = ReadAll(ShippedFile("gamedata.dat"));
+    WriteAll(dir.File("start.sgf"), saved);
+    p.openPaths.push_back(dir.File("start.sgf"));
+    g.rnd.SeedDeterministic(1);
+    g.mnuOpen_Click();  // the hand it deals is under way
+    ASSERT_TRUE(p.messages.empty() && g.RunningTimer() == TimerDealHole);
+    const Game inPlay = g;
+    const std::string before = Snapshot(inPlay);
+    int opened = 0, refused = 0;
+    for (int i = 0; i < 2 * kInputs; ++i) {
+        SCOPED_TRACE("input " + std::to_string(i));
+        // A new file each time: one cut to nothing and rewritten is flushed to disk on close.
+        Game game = inPlay;
+        const bool save = i % 2 == 0;
+        const std::string folder = dir.File(std::to_string(i)) + "/";
+        std::filesystem::create_directory(folder);
+        WriteAll(folder + (save ? "m.sgf" : "gamedata.dat"), Mutate(save ? saved : gameData, rng));
+        if (save) {
+            p.openPaths.push_back(folder + "m.sgf");
+            game.mnuOpen_Click();
+        } else {
+            game.AppFolder = folder;
+            p.answers = {MsgAnswer::Yes};  // start a new game; the one in play was just saved
+            p.newGames.push_back({false, "Tournament", i % 4 == 1 ? "1,000" : "200", "Fast"});
+            game.mnuNew_Click();
+            ASSERT_GE(p.messages.size(), 1u);
+            p.messages.erase(p.messages.begin());
+        }
+        std::string why;
+        ASSERT_TRUE(game.state_is_ok(&why)) << why;
+        if (p.messages.empty() || p.messages[0].title == "Game Over") {
+            ++opened;
+            EXPECT_EQ(game.RunningTimer(), p.messages.empty() ? TimerDealHole : kTimerCount);
+            for (int pos = 1; pos <= kRoster; ++pos) ASSERT_EQ(game.RosterBank[pos] % 100, 0);
+        } else {
+            ++refused;
+            ASSERT_EQ(p.messages.size(), 1u);
+            const std::string& text = p.messages[0].text;
+            EXPECT_EQ(p.messages[0].title, save ? "Game Not Saved" : "Game Not Started");
+            EXPECT_TRUE(!save || text.rfind("Saved game not opened.\n", 0) == 0) << text;
+            ASSERT_EQ(Snapshot(game), before) << text;
+        }
+        p.messages.clear();
+        std::filesystem::remove_all(folder);
+    }
+    EXPECT_GT(opened, kInputs / 5);
+    EXPECT_GT(refused, kInputs / 2);
 }
 
 }  // namespace

@@ -26,35 +26,34 @@ std::string Items(SeqReader& in, const std::string& kinds) {
 }
 
 TEST(SeqTextTest, ReaderTakesItemsByPosition) {
-    const struct {
-        const char *text, *kinds, *items;
-    } cases[] = {
-        {"  12,\"a, b\" ,#TRUE#\r\n-7,  bare text  ,#false#\n\n\"\",+5\r3", "hsbhsbshh",
+    // "!n:" is short for a failure on line 1 at item n.
+    const std::tuple<std::vector<const char*>, const char*, const char*> cases[] = {
+        {{"  12,\"a, b\",#TRUE#\r\n-7,  bare text  ,#false#\n\n\"\",+5\r3"},
+         "hsbhsbshh",
          "12|a, b|T|-7|bare text|F||5|3"},
-        {"32767,-32768,2147483647,-2147483648", "hhll", "32767|-32768|2147483647|-2147483648"},
-        {"1,2", "hhh", "1|2|!(text): line 1: the file ends early"},
-        {"1\r\n\r\n   \r\n", "hh", "1|!(text): line 4: the file ends early"},
-        {"32768", "h", "!(text): line 1: the number is too large for a 16-bit item"},
-        {"-32769", "h", "!(text): line 1: the number is too large for a 16-bit item"},
-        {"2147483648", "l", "!(text): line 1: the number is too large for a 32-bit item"},
-        {"-2147483649", "l", "!(text): line 1: the number is too large for a 32-bit item"},
-        {"99999999999999999999", "l", "!(text): line 1: the number is too large for a 32-bit item"},
-        {"1\n12x", "hh", "1|!(text): line 2: a number is expected for a 16-bit item"},
-        {"\"12\"", "h", "!(text): line 1: a number is expected for a 16-bit item"},
-        {",", "l", "!(text): line 1: a number is expected for a 32-bit item"},
-        {"1.5", "h", "!(text): line 1: a number is expected for a 16-bit item"},
-        {"--1", "h", "!(text): line 1: a number is expected for a 16-bit item"},
-        {"TRUE", "b", "!(text): line 1: #TRUE# or #FALSE# is expected"},
-        {"xTRUE#", "b", "!(text): line 1: #TRUE# or #FALSE# is expected"},
-        {"\"#TRUE#\"", "b", "!(text): line 1: #TRUE# or #FALSE# is expected"},
-        {"\"open", "s", "!(text): line 1: a quoted string is not closed"},
-        {"\"open\r\n\"", "s", "!(text): line 1: a quoted string is not closed"},
-        {"\"a\"b,", "s", "!(text): line 1: text follows a quoted string"},
+        {{"32767,-32768,2147483647,-2147483648"}, "hhll", "32767|-32768|2147483647|-2147483648"},
+        {{"1,2"}, "hhh", "1|2|!3: the file ends before this item."},
+        {{"1\r\n\r\n   \r\n"}, "hh", "1|!Line 4, item 1: the file ends before this item."},
+        {{"32768", "-32769"}, "h", "!1: the number is outside -32768 to 32767."},
+        {{"2147483648", "-2147483649", "99999999999999999999"},
+         "l",
+         "!1: the number is outside -2147483648 to 2147483647."},
+        {{"1\n12x"}, "hh", "1|!Line 2, item 1: a whole number is expected."},
+        {{"\"12\"", "1.5", "--1"}, "h", "!1: a whole number is expected."},
+        {{","}, "l", "!1: a whole number is expected."},
+        {{"TRUE", "xTRUE#", "\"#TRUE#\""}, "b", "!1: #TRUE# or #FALSE# is expected."},
+        {{"\"open", "\"open\r\n\""}, "s", "!1: a quoted text is not closed on its line."},
+        {{"\"a\"b,"}, "s", "!1: text follows the closing quote."},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.text);
-        auto in = SeqReader::FromText(c.text);
-        EXPECT_EQ(Items(in, c.kinds), c.items);
+    for (const auto& [texts, kinds, expected] : cases) {
+        std::string items = expected;
+        if (const auto at = items.find("!"); at != std::string::npos && items[at + 2] == ':')
+            items.replace(at + 1, 1, "Line 1, item " + items.substr(at + 1, 1));
+        for (const char* text : texts) {
+            SCOPED_TRACE(text);
+            auto in = SeqReader::FromText(text);
+            EXPECT_EQ(Items(in, kinds), items);
+        }
     }
     auto rest = SeqReader::FromText("1 ,\r\n x \r\n \t");
     EXPECT_EQ(Items(rest, "h"), "1");
@@ -98,21 +97,20 @@ TEST(ShippedDataTest, GameDataSettingsAndTipsAreReadyForANewGame) {
     for (int p = 1; p <= kRoster; ++p) {
         const std::string line = Items(in, "hslhh"), number = line.substr(line.rfind('|') + 1);
         const std::size_t start = line.find('|') + 1, end = line.find("|10000|0|");
-        EXPECT_TRUE(end != std::string::npos && end - start <= 20 && line.find('"') == std::string::npos &&
-                    (number == "1") == (p == 1))
+        EXPECT_TRUE(end - start <= 20 && line.find('"') == std::string::npos && (number == "1") == (p == 1))
             << line;
         names.insert(line.substr(start, end - start));
         numbers.insert(number);
     }
-    EXPECT_EQ(std::make_tuple(header.substr(0, 6), in.AtEnd(), names.size(), numbers.size()),
-              std::make_tuple("1000|0", true, 1000u, 1000u));
-    EXPECT_EQ(ReadAll(ShippedFile("settings.dft")), "2,#TRUE#,#TRUE#\r\n");
     const std::string tips = ReadAll(ShippedFile("TIPOFDAY.TXT")),
                       text = ReadAll(ShippedFile("gamedata.dat"));
-    EXPECT_EQ(std::make_tuple(std::count(text.begin(), text.end(), '\r'),
-                              std::count(text.begin(), text.end(), '\n'), tips.find("\r\n\r\n"),
-                              tips.substr(tips.size() - 2)),
-              std::make_tuple(1001, 1001, std::string::npos, "\r\n"));
+    EXPECT_EQ(
+        std::make_tuple(header.substr(0, 6), in.AtEnd(), names.size(), numbers.size(),
+                        ReadAll(ShippedFile("settings.dft")), std::count(text.begin(), text.end(), '\r'),
+                        std::count(text.begin(), text.end(), '\n'), tips.find("\r\n\r\n"),
+                        tips.substr(tips.size() - 2)),
+        std::make_tuple("1000|0", true, 1000u, 1000u, "2,#TRUE#,#TRUE#\r\n", 1001, 1001, std::string::npos,
+                        "\r\n"));
 }
 
 }  // namespace

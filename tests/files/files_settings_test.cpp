@@ -1,65 +1,61 @@
-// settings.dft, the speeds and the Settings menu, and the standings scratch file.
+// settings.dft, the speeds and the Settings menu, the standings scratch file, and the statistics file.
 #include <gtest/gtest.h>
 
+#include "files/statistics.h"
 #include "tests/files/files_test_util.h"
 
 namespace holdem::test {
 namespace {
 
-// The nine intervals in the order of the chain, then the checked speed entries
-// as a string of F, M and S.
-std::pair<std::vector<int>, std::string> Speed(const Game& g) {
-    std::vector<int> intervals;
-    for (const TimerState& t : g.view.timer) intervals.push_back(t.interval);
-    const std::string marks = std::string(g.view.mnuFastSpeed.checked ? "F" : "") +
-                              (g.view.mnuMediumSpeed.checked ? "M" : "") +
-                              (g.view.mnuSlowSpeed.checked ? "S" : "");
-    return {intervals, marks};
+// The nine intervals in the order of the chain, then the checked speed entries (F, M, S).
+std::string Speed(const Game& g) {
+    std::string out;
+    for (const TimerState& t : g.view.timer) out += std::to_string(t.interval) + " ";
+    const View& v = g.view;
+    return out + (v.mnuFastSpeed.checked ? "F" : "") + (v.mnuMediumSpeed.checked ? "M" : "") +
+           (v.mnuSlowSpeed.checked ? "S" : "");
 }
-const std::vector<int> kFast = {350, 800, 350, 800, 350, 800, 350, 800, 1000};
-const std::vector<int> kMedium = {450, 1200, 450, 1200, 450, 1200, 450, 1200, 1200};
-const std::vector<int> kSlow = {550, 1600, 550, 1600, 550, 1600, 550, 1600, 1600};
-const std::vector<int> kAsDrawn = {400, 1200, 450, 1200, 450, 1200, 450, 1200, 1500};
+const char* const kFast = "350 800 350 800 350 800 350 800 1000 F";
+const char* const kMedium = "450 1200 450 1200 450 1200 450 1200 1200 M";
+const char* const kSlow = "550 1600 550 1600 550 1600 550 1600 1600 S";
+const char* const kAsDrawn = "400 1200 450 1200 450 1200 450 1200 1500 M";
+std::string Flag(bool on) { return on ? "#TRUE#" : "#FALSE#"; }
 
 using SettingsTest = FileTest;
 
+// What was read is written back whole, as speed, sound, tips.
 TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
-    const struct {
-        const char* text;  // nullptr: no file
-        int speed;
-        bool sound, tips;
-        std::vector<int> intervals;
-        const char *mark, *written;
-    } cases[] = {
-        {"1,#TRUE#,#FALSE#\r\n", 1, true, false, kFast, "F", "1,#TRUE#,#FALSE#\r\n"},
-        {"3,#FALSE#,#TRUE#\n", 3, false, true, kSlow, "S", "3,#FALSE#,#TRUE#\r\n"},
-        {" 2 , #false# , #true#", 2, false, true, kMedium, "M", "2,#FALSE#,#TRUE#\r\n"},
+    const std::tuple<const char*, int, bool, bool, const char*> cases[] = {
+        // file (nullptr: none), speed, sound, tips, timers and mark
+        {"1,#TRUE#,#FALSE#\r\n", 1, true, false, kFast},
+        {"3,#FALSE#,#TRUE#\n", 3, false, true, kSlow},
+        {" 2 , #false# , #true#", 2, false, true, kMedium},
         {"\xEF\xBB\xBF"
          "3,#TRUE#,#FALSE#\r\n",
-         3, true, false, kSlow, "S", "3,#TRUE#,#FALSE#\r\n"},
+         3, true, false, kSlow},
         // A speed outside 1 to 3 changes no timer and no mark, and is written back as it was.
-        {"0,#FALSE#,#FALSE#\r\n", 0, false, false, kAsDrawn, "M", "0,#FALSE#,#FALSE#\r\n"},
-        {"4,#TRUE#,#TRUE#\r\n", 4, true, true, kAsDrawn, "M", "4,#TRUE#,#TRUE#\r\n"},
+        {"0,#FALSE#,#FALSE#\r\n", 0, false, false, kAsDrawn},
+        {"4,#TRUE#,#TRUE#\r\n", 4, true, true, kAsDrawn},
         // A file that cannot be read gives what the menus show before any file.
-        {nullptr, 2, true, true, kMedium, "M", "2,#TRUE#,#TRUE#\r\n"},
-        {"3,#FALSE#", 2, true, true, kMedium, "M", "2,#TRUE#,#TRUE#\r\n"},
-        {"fast,#FALSE#,#FALSE#\r\n", 2, true, true, kMedium, "M", "2,#TRUE#,#TRUE#\r\n"},
-        {"1,-1,0\r\n", 2, true, true, kMedium, "M", "2,#TRUE#,#TRUE#\r\n"},
+        {nullptr, 2, true, true, kMedium},
+        {"3,#FALSE#", 2, true, true, kMedium},
+        {"fast,#FALSE#,#FALSE#\r\n", 2, true, true, kMedium},
+        {"1,-1,0\r\n", 2, true, true, kMedium},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.text ? c.text : "(no file)");
+    for (const auto& [text, speed, sound, tips, timers] : cases) {
+        SCOPED_TRACE(text ? text : "(no file)");
         ScriptedPlatform p2;
         Game g2(p2);
         g2.AppFolder = dir.Folder();
         std::filesystem::remove(dir.File("settings.dft"));
-        if (c.text) WriteAll(dir.File("settings.dft"), c.text);
+        if (text) WriteAll(dir.File("settings.dft"), text);
         g2.ReadSettings();
         EXPECT_EQ(std::make_tuple(int{g2.GameSpeed}, g2.SoundOn, g2.view.mnuSound.checked, g2.TipsAtStartup,
                                   g2.view.mnuTips.checked, Speed(g2)),
-                  std::make_tuple(c.speed, c.sound, c.sound, c.tips, c.tips,
-                                  std::make_pair(c.intervals, std::string(c.mark))));
+                  std::make_tuple(speed, sound, sound, tips, tips, timers));
         g2.WriteSettings();
-        EXPECT_EQ(ReadAll(dir.File("settings.dft")), c.written);
+        EXPECT_EQ(ReadAll(dir.File("settings.dft")),
+                  std::to_string(speed) + "," + Flag(sound) + "," + Flag(tips) + "\r\n");
     }
 }
 
@@ -67,61 +63,73 @@ TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
 TEST_F(SettingsTest, MenuEntriesSetTheTimersTheMarksAndTheFlags) {
     g.ReadSettings();
     g.EnableTimer(TimerBetFlop);
-    const std::tuple<void (Game::*)(), std::vector<int>, const char*, bool, bool> steps[] = {
-        {&Game::mnuFastSpeed_Click, kFast, "F", true, true},
-        {&Game::mnuSound_Click, kFast, "F", false, true},
-        {&Game::mnuSlowSpeed_Click, kSlow, "S", false, true},
-        {&Game::mnuTips_Click, kSlow, "S", false, false},
-        {&Game::mnuSound_Click, kSlow, "S", true, false},
-        {&Game::mnuMediumSpeed_Click, kMedium, "M", true, false},
-        {&Game::mnuTips_Click, kMedium, "M", true, true}};
-    for (const auto& [click, intervals, mark, sound, tips] : steps) {
+    const std::tuple<void (Game::*)(), const char*, int, bool, bool> steps[] = {
+        {&Game::mnuFastSpeed_Click, kFast, 1, true, true},
+        {&Game::mnuSound_Click, kFast, 1, false, true},
+        {&Game::mnuSlowSpeed_Click, kSlow, 3, false, true},
+        {&Game::mnuTips_Click, kSlow, 3, false, false},
+        {&Game::mnuSound_Click, kSlow, 3, true, false},
+        {&Game::mnuMediumSpeed_Click, kMedium, 2, true, false},
+        {&Game::mnuTips_Click, kMedium, 2, true, true}};
+    for (const auto& [click, timers, speed, sound, tips] : steps) {
         (g.*click)();
-        EXPECT_EQ(std::make_tuple(Speed(g), int{g.GameSpeed}, g.RunningTimer()),
-                  std::make_tuple(std::make_pair(intervals, std::string(mark)),
-                                  std::string("FMS").find(mark) + 1, TimerBetFlop));
-        EXPECT_EQ(
-            std::make_tuple(g.SoundOn, g.view.mnuSound.checked, g.TipsAtStartup, g.view.mnuTips.checked),
-            std::make_tuple(sound, sound, tips, tips));
+        EXPECT_EQ(std::make_tuple(Speed(g), int{g.GameSpeed}, g.RunningTimer(), g.SoundOn,
+                                  g.view.mnuSound.checked, g.TipsAtStartup, g.view.mnuTips.checked),
+                  std::make_tuple(timers, speed, TimerBetFlop, sound, sound, tips, tips));
     }
 }
 
-// A file in the way of AppFolder makes it unwritable, even for root.
-TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolderAndStaysThere) {
+// A file in the way of AppFolder makes it unwritable, even for root: standings and settings go to the
+// user folder, and settings stay there.
+TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolder) {
     WriteAll(dir.File("blocked"), "not a folder");
-    g.AppFolder = dir.File("blocked") + "/";
-    g.UserDataFolder = dir.File("user/data") + "/";
+    std::tie(g.AppFolder, g.UserDataFolder) = std::make_tuple(dir.File("blocked/"), dir.File("user/data/"));
+    FillRoster(g, 8);
+    g.cmdFloor_Click();
+    EXPECT_EQ(std::make_tuple(g.StandingsPath, p.floors, ReadAll(g.StandingsPath).substr(0, 11)),
+              std::make_tuple(dir.File("user/data/stnd.dat"), std::vector<std::string>{g.StandingsPath},
+                              "8,0,0,0\r\n1,"));
     g.ReadSettings();
     g.mnuFastSpeed_Click();
     g.WriteSettings();
     EXPECT_EQ(ReadAll(dir.File("user/data/settings.dft")), "1,#TRUE#,#TRUE#\r\n");
-    g.AppFolder = dir.Folder();
+    // Nowhere to write: a message, and neither view opens on an old file.
+    for (auto [click, title] : {std::make_pair(&Game::cmdStandings_Click, "Standings"),
+                                std::make_pair(&Game::mnuFloor_Click, "View Floor")}) {
+        std::tie(g.UserDataFolder, g.StandingsPath) = std::make_tuple(dir.File("blocked/also/"), "");
+        (g.*click)();
+        ExpectMessage("The list of players could not be written to " + dir.File("blocked") + "/stnd.dat.",
+                      title);
+    }
+    EXPECT_EQ(std::make_pair(p.standings.size(), p.floors.size()),
+              std::make_pair(std::size_t{0}, std::size_t{1}));
+    std::tie(g.AppFolder, g.UserDataFolder) = std::make_tuple(dir.Folder(), dir.File("user/data/"));
     WriteAll(dir.File("settings.dft"), "3,#TRUE#,#TRUE#\r\n");
     g.ReadSettings();
-    EXPECT_EQ(g.GameSpeed, 1);
     g.mnuSound_Click();
     g.WriteSettings();
-    EXPECT_EQ(ReadAll(dir.File("user/data/settings.dft")), "1,#FALSE#,#TRUE#\r\n");
-    EXPECT_EQ(ReadAll(dir.File("settings.dft")), "3,#TRUE#,#TRUE#\r\n");
+    EXPECT_EQ(std::make_tuple(int{g.GameSpeed}, ReadAll(dir.File("user/data/settings.dft")),
+                              ReadAll(dir.File("settings.dft"))),
+              std::make_tuple(1, "1,#FALSE#,#TRUE#\r\n", "3,#TRUE#,#TRUE#\r\n"));
 }
 
 // An installed copy never writes its own folder, even where it could.
 TEST_F(SettingsTest, InstalledCopyWritesOnlyTheUserFolder) {
     WriteAll(dir.File("settings.dft"), "3,#TRUE#,#FALSE#\r\n");
-    g.InstalledCopy = true;
-    g.UserDataFolder = dir.File("user/data") + "/";
-    g.StandingsPath = g.AppFolder + "stnd.dat";
+    std::tie(g.InstalledCopy, g.UserDataFolder, g.StandingsPath) =
+        std::make_tuple(true, dir.File("user/data/"), g.AppFolder + "stnd.dat");
     g.ReadSettings();
     EXPECT_EQ(std::make_tuple(g.GameSpeed, g.TipsAtStartup), std::make_tuple(3, false));
     g.mnuFastSpeed_Click();
     g.WriteSettings();
     FillRoster(g, 8);
     g.cmdStandings_Click();
-    EXPECT_EQ(ReadAll(dir.File("settings.dft")), "3,#TRUE#,#FALSE#\r\n");
-    EXPECT_FALSE(std::filesystem::exists(dir.File("stnd.dat")));
-    EXPECT_EQ(ReadAll(dir.File("user/data/settings.dft")), "1,#TRUE#,#FALSE#\r\n");
-    EXPECT_EQ(p.standings, std::vector<std::string>{dir.File("user/data/stnd.dat")});
-    EXPECT_EQ(ReadAll(p.standings.at(0)).substr(0, 11), "8,0,0,0\r\n1,");
+    EXPECT_EQ(
+        std::make_tuple(ReadAll(dir.File("settings.dft")), std::filesystem::exists(dir.File("stnd.dat")),
+                        ReadAll(dir.File("user/data/settings.dft")), p.standings,
+                        ReadAll(dir.File("user/data/stnd.dat")).substr(0, 11)),
+        std::make_tuple("3,#TRUE#,#FALSE#\r\n", false, "1,#TRUE#,#FALSE#\r\n",
+                        std::vector<std::string>{dir.File("user/data/stnd.dat")}, "8,0,0,0\r\n1,"));
 }
 
 TEST_F(SettingsTest, StandingsAndFloorWriteTheWholeRosterFirst) {
@@ -146,26 +154,45 @@ TEST_F(SettingsTest, StandingsAndFloorWriteTheWholeRosterFirst) {
     EXPECT_TRUE(p.messages.empty());
 }
 
-TEST_F(SettingsTest, StandingsGoToTheUserFolderWhereAppFolderRefuses) {
-    WriteAll(dir.File("blocked"), "not a folder");
-    g.AppFolder = dir.File("blocked") + "/";
-    g.UserDataFolder = dir.File("per-user") + "/";
-    FillRoster(g, 8);
-    g.cmdFloor_Click();
-    EXPECT_EQ(g.StandingsPath, g.UserDataFolder + "stnd.dat");
-    EXPECT_EQ(p.floors, std::vector<std::string>{g.StandingsPath});
-    EXPECT_EQ(ReadAll(g.StandingsPath).substr(0, 11), "8,0,0,0\r\n1,");
-    // Nowhere to write: a message, and neither view opens on an old file.
-    for (auto [click, title] : {std::make_pair(&Game::cmdStandings_Click, "Standings"),
-                                std::make_pair(&Game::mnuFloor_Click, "View Floor")}) {
-        g.UserDataFolder = dir.File("blocked") + "/also/";
-        g.StandingsPath.clear();
-        (g.*click)();
-        ExpectMessage("The list of players could not be written to " + dir.File("blocked") + "/stnd.dat.",
-                      title);
+// The statistics file: read back whole after a restart, or the defaults for anything doubtful.
+TEST(StatisticsFile, SurvivesARestartOrGivesTheDefaults) {
+    TempFolder dir;
+    const std::string path = dir.File("user/" + std::string(kStatisticsFile));
+    EXPECT_EQ(ReadStatistics(path), Statistics{}) << "no file yet";
+    Statistics s;
+    std::tie(s.gamesPlayed, s.tournamentsPlayed, s.bestFinish, s.handsPlayed, s.handsWon, s.showdownsWon,
+             s.biggestPotWon, s.handsVoluntary, s.showHandLog) =
+        std::make_tuple(4, 3, decltype(s.bestFinish){2, 0, 57, 734}, 310, 41, 17, 123400, 88, false);
+    ASSERT_TRUE(WriteStatistics(path, s));  // makes the folder too
+    EXPECT_EQ(ReadStatistics(path), s);
+    ResetRecord(s);
+    EXPECT_EQ(std::make_pair(s.handsPlayed, s.showHandLog), std::make_pair(0, false));  // keeps the panel
+
+    const std::string good = "holdem statistics 1\ngames 2\nhands 10\nwon 3\n";
+    const std::string cases[] = {
+        "",
+        "holdem statistics 2\ngames 2\n",
+        "games 2\n",
+        good + "won three\n",
+        good + "hands -5\n",
+        good + "hands 99999999999\n",
+        good + "best-80 81\n",
+        good + "show-tourney 2\n",
+        good + "colour blue\n",
+        "holdem statistics 1\nhands 1\nwon 5\n",
+        good + std::string(20000, '\n'),
+        std::string("holdem statistics 1\0games 2\n", 28),
+    };
+    for (const std::string& text : cases) {
+        SCOPED_TRACE(text.substr(0, 60));
+        WriteAll(path, text);
+        EXPECT_EQ(ReadStatistics(path), Statistics{});
     }
-    EXPECT_TRUE(p.standings.empty());
-    EXPECT_EQ(p.floors.size(), 1u);
+    WriteAll(path, good + "\r\n");
+    EXPECT_EQ(ReadStatistics(path).handsWon, 3) << "a good file with Windows line ends";
+    s.gamesPlayed = 9;
+    EXPECT_FALSE(WriteStatistics(path + "/below-a-file.txt", s));
+    EXPECT_EQ(ReadStatistics(path).gamesPlayed, 2);
 }
 
 }  // namespace

@@ -67,16 +67,6 @@ inline std::vector<float> LoadDraws(std::vector<float> first = {}) {
     return first;
 }
 
-// After a failed load: an empty table with nothing running and nothing to save.
-inline bool NoHandDealt(const Game& g) {
-    bool shown = g.RunningTimer() != kTimerCount || g.view.cmdDeal.visible || g.view.mnuSave.enabled ||
-                 g.view.mnuSaveAs.enabled;
-    for (int i = 1; i <= 4; ++i) shown |= g.view.cmdPlay[i].visible;
-    for (int c = 1; c <= 21; ++c) shown |= g.view.icard[c].visible;
-    for (int s = 1; s <= kSeats; ++s) shown |= g.view.lblName[s].visible || g.view.lblBank[s].visible;
-    return !shown;
-}
-
 class FileTest : public ::testing::Test {
 protected:
     TempFolder dir;
