@@ -28,7 +28,7 @@ std::string Items(SeqReader& in, const std::string& kinds) {
 TEST(SeqTextTest, ReaderTakesItemsByPosition) {
     // "!n:" is short for a failure on line 1 at item n.
     const std::tuple<std::vector<const char*>, const char*, const char*> cases[] = {
-        {{"  12,\"a, b\",#TRUE#\r\n-7,  bare text  ,#false#\n\n\"\",+5\r3"},
+        {{"  12,\"a, b\" ,#TRUE#\r\n-7,  bare text  ,#false#\n\n\"\",+5\r3"},
          "hsbhsbshh",
          "12|a, b|T|-7|bare text|F||5|3"},
         {{"32767,-32768,2147483647,-2147483648"}, "hhll", "32767|-32768|2147483647|-2147483648"},
