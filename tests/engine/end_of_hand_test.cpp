@@ -1,9 +1,10 @@
-// After the payments: the blinds, the finishing places, the ways a hand
-// leaves the game, the finish text and the pot breakdown.
+// The end of a hand: paying the shown table, then the blinds, the finishing
+// places, the ways a hand leaves the game, the finish text and the pot breakdown.
 #include "engine/end_of_hand.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -20,9 +21,9 @@ TEST(EndOfHand, BlindsByPlayersLeftAtEveryBoundary) {
         {8, "6:100 4:200 3:400 2:600 0:1000"},
         {80, "60:100 50:200 40:400 30:600 20:800 10:1000 5:2000 3:4000 0:8000"},
         {200, "160:100 120:200 80:400 60:600 50:800 40:1000 30:1500 20:2000 10:4000 5:7000 3:10000 0:15000"},
-        {1000,
-         "900:100 800:200 700:400 600:600 500:800 400:1000 300:1500 200:2000 100:4000 50:7000 30:10000 "
-         "15:15000 7:20000 3:25000 0:35000"}};
+        // clang-format off
+        {1000, "900:100 800:200 700:400 600:600 500:800 400:1000 300:1500 200:2000 100:4000 50:7000 30:10000 15:15000 7:20000 3:25000 0:35000"}};
+    // clang-format on
     test::ScriptedPlatform p;
     Game g(p);
     auto blindAt = [&g](int16_t size, int n) {
@@ -90,13 +91,15 @@ protected:
         std::ostringstream s;
         s << "left " << g.PlayersLeft << " next " << g.NextFinishPlace << " user " << g.UserFinishPlace << " "
           << g.view.lblBlind.text;
-        for (auto [on, what] : {std::pair{g.view.cmdDeal.visible, " deal"},
-                                {g.view.cmdStandings.visible, " standings"},
-                                {g.view.cmdFloor.visible, " floor"},
-                                {g.view.picTableMoney.visible, " winner"},
-                                {g.view.mnuSave.enabled && g.view.mnuSaveAs.enabled, " save"},
-                                {g.GameUnsaved, " unsaved"},
-                                {g.GameEnded, " ended"}})
+        const std::pair<bool, const char*> flags[] = {
+            {g.view.cmdDeal.visible, " deal"},
+            {g.view.cmdStandings.visible, " standings"},
+            {g.view.cmdFloor.visible, " floor"},
+            {g.view.picTableMoney.visible, " winner"},
+            {g.view.mnuSave.enabled && g.view.mnuSaveAs.enabled, " save"},
+            {g.GameUnsaved, " unsaved"},
+            {g.GameEnded, " ended"}};
+        for (auto [on, what] : flags)
             if (on) s << what;
         for (const auto& sound : p.sounds) s << " " << sound;
         for (int16_t place : p.gameOvers) s << " over " << place;
@@ -194,6 +197,105 @@ TEST_F(HandOver, PotBreakdownLiveThenSnapshot) {
     EXPECT_EQ(shown(),
               "Renamed=0 Player 2=100 Player 3=200 Player 4=0 =0 Player 6=0 Player 7=0 Player 8=0 300");
     EXPECT_EQ(p.breakdowns.size(), 4u);
+}
+
+// Paying the shown table: finish order, stake levels, layers, odd hundreds,
+// the winners' marks, the sound, the pause and the closing check.
+constexpr int32_t kStart = 10000;
+
+// Eight seats of 10,000 over a board that pairs and draws to nothing; the
+// seats named ("2:1000:AhAd", no cards when folded) put their stake in.
+// Tells "seat:paid ..." from the labels, ">" the arrowed seats, the sounds
+// and the closing-check messages.
+std::string Settle(const std::string& stakes, bool sound = true) {
+    test::ScriptedPlatform p;
+    Game g(p);
+    test::EmptyTable(g);
+    g.view.mnuSound.checked = sound;
+    g.rnd.Script({});
+    test::SetBoard(g, "2c7d9hJs4s");
+    for (int s = 1; s <= kSeats; ++s) test::SeatPlayer(g, s, kStart, 0, 0, false);
+    std::istringstream in(stakes);
+    for (std::string st; in >> st;) {
+        int seat = st[0] - '0', stake = std::stoi(st.substr(2));
+        std::string hole = st.size() > 7 && st[st.size() - 5] == ':' ? st.substr(st.size() - 4) : "";
+        test::SeatPlayer(g, seat, static_cast<float>(kStart - stake), stake, 0, !hole.empty());
+        if (!hole.empty()) test::SetHole(g, seat, hole);
+        g.SeatHandCode[seat] = 61;  // ranked on the river, then folded
+    }
+    test::RankRiver(g);
+    g.TimerHandOver_Timer();
+
+    std::string out, arrows;
+    for (int s = 1; s <= kSeats; ++s) {
+        int32_t paid = g.RosterBank[s] - kStart + g.BreakdownBet[s];
+        EXPECT_EQ(g.view.lblPaid[s].visible, paid > 0) << s;
+        EXPECT_EQ(g.view.lblBank[s].text, Money(g.RosterBank[s])) << s;
+        EXPECT_EQ(g.SeatHandCode[s] == kNoHand, !g.SeatInHand[s]) << s;
+        if (paid > 0) {
+            EXPECT_EQ(g.view.lblPaid[s].text, "Paid $" + Money(paid));
+            out += std::to_string(s) + ":" + Money(paid) + " ";
+        }
+        if (g.view.iArrow[s].visible) arrows += " " + std::to_string(s);
+        EXPECT_EQ(g.view.icard[s].picture != 0, g.SeatInHand[s] && g.PlayersInHand > 1) << s;
+    }
+    out += ">" + arrows.substr(std::min<std::size_t>(1, arrows.size()));
+    for (int s = 1; s <= kSeats; ++s)  // the names, only with two or more left
+        if (!g.view.lblBet[s].text.empty()) out += " " + g.view.lblBet[s].text;
+    for (const auto& sound : p.sounds) out += " " + sound;
+    for (const auto& m : p.messages) {
+        out += " | " + m.text;
+        EXPECT_TRUE(m.buttons == MsgButtons::OK && m.icon == MsgIcon::None && m.title.empty());
+    }
+    EXPECT_EQ(g.UserWonHand, g.view.iArrow[1].visible);
+    EXPECT_TRUE(g.HandIsOver);
+    EXPECT_EQ(p.pauses, 1);
+    EXPECT_EQ(g.rnd.Overdrawn(), 0);
+    return out;
+}
+
+TEST(SettlePots, Examples) {
+    const std::pair<const char*, const char*> rows[] = {
+        // A all in with 1,000 and best, B and C 5,000: Layer1 3,000 to A, Layer2 8,000 to B.
+        {"2:1000:AhAd 3:5000:KhKd 4:5000:QhQd", "2:3,000 3:8,000 >2 Aces Kings Queens LOSTHAND"},
+        // The uncalled part of B's bet comes back as a payment; C folded after 300.
+        {"2:1000:AhAd 3:5000:KhKd 4:300", "2:2,300 3:4,000 >2 Aces Kings LOSTHAND"},
+        // Odd hundreds one by one in finish order: layers of 500, 700, 800, 1,000, 1,100.
+        {"2:200:AhKd 3:200:AsKc 6:100", "2:300 3:200 >2 3 LOSTHAND"},
+        {"2:200:AhKd 3:200:AsKc 4:200:AdKh 6:100", "2:300 3:200 4:200 >2 3 4 LOSTHAND"},
+        {"2:200:AhKd 3:200:AsKc 4:200:AdKh 6:200", "2:300 3:300 4:200 >2 3 4 LOSTHAND"},
+        {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100", "2:400 3:300 4:300 >2 3 4 LOSTHAND"},
+        {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100 7:100", "2:400 3:400 4:300 >2 3 4 LOSTHAND"},
+        // Seat 3 best, 1 and 2 tied behind: the swap puts 2 first. A side layer is no won hand.
+        {"1:400:AsKc 2:400:AhKd 3:200:QhQd 4:300", "1:200 2:300 3:800 >3 Queens LOSTHAND"},
+        // A tie with a smaller stake: Layer1 2,700 split with its odd hundred, Layer2 whole to seat 3.
+        {"2:900:AhKd 3:3000:AsKc 4:3000:Qh8d", "2:1,400 3:5,500 >2 3 LOSTHAND"},
+        // The best hand has the lowest stake: each layer falls to the first place that can claim it.
+        {"2:500:AhAd 3:2000:KhKd 4:4000:QhQd 5:4000:ThTd",
+         "2:2,000 3:4,500 4:4,000 >2 Aces Kings Queens Tens LOSTHAND"},
+        // Six stakes: chips above the fourth level are one layer, claimed by finish order.
+        {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000:8h8d 7:6000:6h6d",
+         "2:6,000 3:5,000 4:4,000 5:3,000 6:3,000 >2 Aces Kings Queens Tens Eights Sixes LOSTHAND"},
+        {"2:6000:AhAd 3:5000:KhKd 4:4000:QhQd 5:3000:ThTd 6:2000:8h8d 7:1000:6h6d",
+         "2:21,000 >2 Aces Kings Queens Tens Eights Sixes LOSTHAND"},
+        {"2:1000:6h6d 3:6000:KhKd 4:5000:QhQd 5:4000:ThTd 6:3000:8h8d 7:2000:AhAd",
+         "3:10,000 7:11,000 >7 Sixes Kings Queens Tens Eights Aces LOSTHAND"},
+        // Equal stakes add one level; a folded stake above them all goes to whoever is in.
+        {"1:2000:AhAd 2:2000:KhKd 3:2000:QhQd 4:1000:ThTd 5:3000",
+         "1:10,000 >1 Aces Kings Queens Tens WONHAND"},
+        // The user folds and a side layer is all that is left to decide.
+        {"1:200 2:500:AhAd 3:3000:KhKd 4:3000:QhQd", "2:1,700 3:5,000 >2 Aces Kings Queens LOSTHAND"},
+        // A Layer5 nobody in the hand can claim leaves the table, and the closing check says so.
+        {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000",
+         "2:5,000 3:4,000 4:3,000 5:2,000 >2 Aces Kings Queens Tens LOSTHAND | Table 1: Total Pot: 15000   "
+         "Total Paid: 14000 | "
+         "Table Total: 79000"},
+        // All fold to the large blind: its 200 and the small blind's 100, no card turned.
+        {"2:100 3:200:AhKd", "3:300 >3 LOSTHAND"},
+        {"1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", "1:3,300 3:8,000 >1 Aces Kings WONHAND"},
+    };
+    for (auto [stakes, outcome] : rows) EXPECT_EQ(Settle(stakes), outcome) << stakes;
+    EXPECT_EQ(Settle("1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", false), "1:3,300 3:8,000 >1 Aces Kings");
 }
 
 }  // namespace

@@ -45,11 +45,7 @@ TEST(Opponent, RateHandBeforeTheFlopByClass) {
 
 // After the flop: the code's row, and for groups the hole cards of its ranks.
 TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
-    struct Row {
-        int code;
-        const char* hole;
-        int call, raise;
-    } rows[] = {
+    const std::tuple<int, const char*, int, int> rows[] = {
         {1, "2s3d", 100, 75},  {27, "2s3d", 100, 75}, {28, "2s3d", 95, 60},  {31, "2s3d", 95, 60},
         {32, "2s3d", 90, 50},  {36, "2s3d", 90, 50},  {37, "2s3d", 80, 40},  {37, "AsKs", 80, 40},
         {38, "2s3d", 75, 35},  {41, "2s3d", 75, 35},  {42, "2s3d", 70, 30},  {47, "2s3d", 70, 30},
@@ -72,9 +68,9 @@ TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
         g.RateHand(3);
         return std::to_string(g.CallChance) + "/" + std::to_string(g.RaiseChance);
     };
-    for (const Row& r : rows)
-        EXPECT_EQ(rate(r.code, r.hole), std::to_string(r.call) + "/" + std::to_string(r.raise))
-            << r.code << " " << r.hole;
+    for (auto [code, hole, call, raise] : rows)
+        EXPECT_EQ(rate(code, hole), std::to_string(call) + "/" + std::to_string(raise))
+            << code << " " << hole;
     // Each two-pair code by its two ranks: one hole card of either gives h 1,
     // both give 2, a rank of neither 0.
     const char* faces = "23456789TJQKA";
@@ -96,20 +92,10 @@ TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
 // percentages 100 * r; x draws Round(9r + 1) before the flop and
 // Round(19r + 1) after it, each chosen so that a scale one off, a floor or
 // the other rounding gives another amount.
-struct Move {
-    int street;
-    bool background;
-    int16_t call, raise;
-    int32_t bank, stake, high;
-    bool raised;
-    std::vector<float> draws;
-    const char* words;
-    int32_t stakeAfter, highAfter;
-    int highIndexAfter;
-    bool raisedAfter, inHandAfter;
-};
-
 // clang-format off
+struct Move { int street; bool background; int16_t call, raise; int32_t bank, stake, high; bool raised; std::vector<float> draws;
+              const char* words; int32_t stakeAfter, highAfter; int highIndexAfter; bool raisedAfter, inHandAfter; };
+
 const Move kMoves[] = {
     // street, bg, call, raise, bank, stake, high, raised, draws -> words, stake, high, index, raised, in hand
     {1, false, 10, 0, 10000, 200, 200, false, {}, "", 200, 200, 3, false, true},  // matched: no draw
@@ -177,17 +163,12 @@ TEST(Opponent, Moves) {
             g.SeatInHand[s] = g.view.icard[s].visible = g.view.icard[s + 8].visible = true;
             g.SeatBank[s] = g.TableBank[s] = 10000;
         }
-        g.PlayersInHand = 8;
-        g.Street = static_cast<int16_t>(c.street);
+        g.PlayersInHand = 8, g.Street = static_cast<int16_t>(c.street);
         g.CardsKnown = static_cast<int16_t>(c.street == 1 ? 2 : c.street + 3);
-        g.CallChance = c.call;
-        g.RaiseChance = c.raise;
-        if (c.background)
-            g.TableBank[5] = c.bank;
-        else
-            g.SeatBank[5] = static_cast<float>(c.bank);
-        g.SeatRaised[5] = c.raised;
-        g.SeatBet[5] = c.stake;
+        g.CallChance = c.call, g.RaiseChance = c.raise;
+        g.TableBank[5] = c.background ? c.bank : 10000;
+        g.SeatBank[5] = c.background ? 10000.0f : static_cast<float>(c.bank);
+        g.SeatRaised[5] = c.raised, g.SeatBet[5] = c.stake;
         g.SeatBet[3] = g.HighBetValue = c.high;
         g.HighBetIndex = static_cast<int16_t>(c.high > 0 ? 3 : 0);
         g.Pot = c.stake + c.high;
@@ -213,30 +194,6 @@ TEST(Opponent, Moves) {
                   c.background || c.draws.empty() ? "" : std::to_string(c.highIndexAfter));
         EXPECT_EQ(g.view.icard[5].visible && g.view.icard[13].visible, c.background || c.inHandAfter);
     }
-}
-
-// The last opponent's fold ends the hand at once on the shown table, before
-// the flop and after it; a background fold leaves the timers alone.
-TEST(Opponent, TheLastFoldStartsTheHandOverOnTheShownTableOnly) {
-    for (int street : {1, 3})
-        for (bool background : {false, true}) {
-            SCOPED_TRACE(street * 10 + background);
-            ScriptedPlatform p;
-            Game g(p);
-            g.SeatInHand[1] = g.SeatInHand[5] = true;
-            g.SeatBank[5] = g.TableBank[5] = 4000;
-            g.PlayersInHand = 2;
-            g.Street = static_cast<int16_t>(street);
-            g.SeatBet[1] = g.HighBetValue = 600;
-            g.HighBetIndex = 1;
-            g.CallChance = 10;
-            TimerId bet = street == 1 ? TimerBetHole : TimerBetTurn;
-            g.EnableTimer(bet);
-            g.rnd.Script({0.5f});
-            street == 1 ? g.OpponentMoveBeforeFlop(5, background) : g.OpponentMoveAfterFlop(5, background);
-            EXPECT_EQ(g.PlayersInHand, 1);
-            EXPECT_EQ(g.RunningTimer(), background ? bet : TimerHandOver);
-        }
 }
 
 }  // namespace

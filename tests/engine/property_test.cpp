@@ -4,12 +4,14 @@
 // within 1..N, the tables in play balanced, no closing check fired.
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "engine/autoplay.h"
 
 namespace holdem::sim {
 namespace {
 
-// Every policy of the user, every field size. The signature mixes every
+// Every policy of the user, every field size, each game with the log and without. The signature mixes every
 // stack of the shown table and the players left after every hand, so it
 // moves with any change of a draw, a move, a payment or a place; it changes
 // only when behaviour changes on purpose.
@@ -23,13 +25,23 @@ TEST(Property, SeededGamesPlayCleanAndRepeatExactly) {
     for (auto [players, policy, first, last] : runs)
         for (uint64_t seed = first; seed <= last; ++seed) {
             SCOPED_TRACE(::testing::Message() << players << " players, seed " << seed);
-            GameResult r = PlayOneGame(HOLDEM_ASSETS, players, seed, policy, nullptr);
+            // Played again without the log: it watches, so draws and payments stay the same.
+            std::FILE* sink = std::tmpfile();
+            uint64_t draws[2] = {};
+            GameResult r = PlayOneGame(HOLDEM_ASSETS, players, seed, policy, sink,
+                                       [&](Game& g) { draws[0] = g.rnd.Draws(); });
+            const long logged = std::ftell(sink);
+            std::fclose(sink);
             ASSERT_TRUE(r.violations.empty()) << r.violations.front();
             ASSERT_TRUE(r.hands > 0 &&
                         (r.userWon ? r.userPlace <= 1 : r.userPlace >= 2 && r.userPlace <= players));
-            GameResult again = PlayOneGame(HOLDEM_ASSETS, players, seed, policy, nullptr);
-            ASSERT_EQ(std::make_tuple(r.hands, r.userPlace, r.hash),
-                      std::make_tuple(again.hands, again.userPlace, again.hash));
+            GameResult again = PlayOneGame(HOLDEM_ASSETS, players, seed, policy, nullptr, [&](Game& g) {
+                draws[1] = g.rnd.Draws();
+                ASSERT_TRUE(g.view.log.empty());
+            });
+            ASSERT_GT(logged, 0);
+            ASSERT_EQ(std::make_tuple(r.hands, r.userPlace, r.hash, draws[0]),
+                      std::make_tuple(again.hands, again.userPlace, again.hash, draws[1]));
             sig.Add(r);
             hands += r.hands;
         }

@@ -1,99 +1,22 @@
-// The tournament around the shown table: a background hand, its one-pot
-// settlement, the balancing of the tables, and whole seeded tournaments.
+// The tournament around the shown table: a background hand's one-pot
+// settlement, the balancing of the tables, the tournament figures, playing
+// out the field and hurrying a hand.
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
+#include <array>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "engine/autoplay.h"
+#include "engine/end_of_hand.h"
+#include "engine/play_out.h"
 #include "tests/support/builders.h"
 #include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
-
-constexpr float kNo = 0.99f;  // folds to a bet, never raises, checks with nothing to call
-constexpr int kTable = 7;
-
-// The whole of a background hand at table 7 in one line: button, blinds,
-// cards known, every stack after the hand and what each seat put in.
-// Moves: 's' a draw of 0 (stays, raises when it may, by the smallest size),
-// 'n' kNo, 'm' 0.49 (a middle draw: calls a class-5 hand, x of 5 or 10).
-std::string PlayBackground(const char* stacks, int buttonBefore, const char* holes, const char* moves) {
-    test::ScriptedPlatform p;
-    Game g(p);
-    g.SmallBlind = 100;
-    g.TableButton[kTable] = static_cast<int16_t>(buttonBefore);
-    std::istringstream in(stacks);
-    int players = 0, button = 0;
-    for (int s = 1; s <= kSeats; ++s)
-        in >> g.RosterBank[RosterPosition(kTable, s)], players += g.RosterBank[RosterPosition(kTable, s)] > 0;
-    for (int s = buttonBefore % kSeats + 1; button == 0 && players > 1; s = s % kSeats + 1)
-        if (g.RosterBank[RosterPosition(kTable, s)] > 0) button = s;
-    std::array<std::string, 9> hole{};
-    std::istringstream hin(holes);
-    for (std::string h; hin >> h;) hole[h[0] - '0'] = h.substr(2);
-    std::vector<float> draws =
-        players > 1 ? test::ShuffleDrawsFor(test::DeckFor(button, hole, "Kc9d5s3hJd")) : std::vector<float>{};
-    for (const char* m = moves; *m; ++m) draws.push_back(*m == 's' ? 0.0f : *m == 'm' ? 0.49f : kNo);
-    g.rnd.Script(draws);
-    g.PlayTableHand(kTable);
-
-    std::ostringstream out;
-    out << "button " << g.TableButton[kTable] << " blinds " << g.SmallBlindSeat << "/" << g.BigBlindSeat
-        << " known " << g.CardsKnown << " |";
-    for (int s = 1; s <= kSeats; ++s) out << " " << g.RosterBank[RosterPosition(kTable, s)];
-    out << " |";
-    for (int s = 1; s <= kSeats; ++s)
-        if (g.SeatTotalBet[s] > 0) out << " " << s << ":" << g.SeatTotalBet[s];
-    bool ranked = false;
-    for (int s = 1; s <= kSeats; ++s) ranked = ranked || g.SeatHandCode[s] != kNoHand;
-    EXPECT_EQ(ranked, g.CardsKnown > 2) << "ranked only once a street is out";
-    EXPECT_EQ(g.rnd.Remaining() + g.rnd.Overdrawn(), 0u) << out.str();
-    EXPECT_TRUE(p.messages.empty());
-    EXPECT_EQ(g.RosterBank[RosterPosition(kTable - 1, 8)] + g.RosterBank[RosterPosition(kTable + 1, 1)], 0);
-    return out.str();
-}
-
-TEST(Background, WholeHands) {
-    const std::tuple<const char*, int, const char*, const char*, const char*> rows[] = {
-        // A full table: button 1, blinds 2 and 3, seat 4 first; it calls, the rest fold; 3 and 4 check down.
-        {"10000 10000 10000 10000 10000 10000 10000 10000", 0, "4:AhAs 3:7d2c", "snnnnnnnnnnnnn",
-         "button 1 blinds 2/3 known 7 | 10000 9900 9800 10300 10000 10000 10000 10000 | 2:100 3:200 4:200"},
-        // Seats 1 and 2 empty: the button lands on 3; all fold to the large blind, nothing is ranked.
-        {"0 0 10000 10000 10000 10000 10000 10000", 0, "", "nnnnn",
-         "button 3 blinds 4/5 known 2 | 0 0 10000 9900 10100 10000 10000 10000 | 4:100 5:200"},
-        // Two players: the small blind is the seat after the button and wins the check-down.
-        {"0 0 10000 0 0 10000", 6, "6:AhAs 3:7d2c", "nnnnnn",
-         "button 3 blinds 6/3 known 7 | 0 0 9900 0 0 10100 0 0 | 3:200 6:100"},
-        // ... and opens the flop: seat 6 bets 500, seat 3 folds.
-        {"0 0 10000 0 0 10000", 6, "6:7d2c 3:8d2s", "ssn",
-         "button 3 blinds 6/3 known 5 | 0 0 9800 0 0 10200 0 0 | 3:200 6:600"},
-        {"0 0 0 0 12300", 4, "", "", "button 4 blinds 0/0 known 0 | 0 0 0 0 12300 0 0 0 |"},
-        // Blinds that take the whole stacks: every street is still dealt, one check each.
-        {"0 0 200 0 0 100", 6, "6:AhAs 3:7d2c", "nnn",
-         "button 3 blinds 6/3 known 7 | 0 0 100 0 0 200 0 0 | 3:200 6:100"},
-        // Three players all in: the button calls short; the shortest wins the main pot.
-        {"100 100 200", 0, "1:AhAs 2:7d2c 3:8h2s", "snnnn",
-         "button 1 blinds 2/3 known 7 | 300 0 100 0 0 0 0 0 | 1:100 2:100 3:200"},
-        // An all-in seat first after the button still opens each street, with a check.
-        {"10000 100 10000", 0, "2:AhAs 1:7d2c 3:8h2s", "snnnnnnnnnn",
-         "button 1 blinds 2/3 known 7 | 9900 300 9900 0 0 0 0 0 | 1:200 2:100 3:200"},
-        // A short large blind: callers pay the full 200 and get 50 back.
-        {"10000 10000 150", 0, "3:AhAs 1:7d2c 2:8h2s", "snsnnnnnnn",
-         "button 1 blinds 2/3 known 7 | 9850 9850 450 0 0 0 0 0 | 1:200 2:200 3:150"},
-        // Raises are unlimited: 4 to 400, 1 and 2 fold, 3 to 800, 4 to 1,600, 3 calls.
-        {"10000 10000 10000 10000", 0, "4:AhAs 3:QhQs 1:7d2c 2:8h2s", "sssnnsssssssnnnnnnn",
-         "button 1 blinds 2/3 known 7 | 10000 9900 8400 11700 0 0 0 0 | 2:100 3:1600 4:1600"},
-        // The button moves on to the next seat with chips; three players, the button folds first.
-        {"0 10000 0 0 10000 0 10000", 5, "", "nn",
-         "button 7 blinds 2/5 known 2 | 0 9900 0 0 10100 0 10000 0 | 2:100 5:200"},
-    };
-    for (auto [stacks, button, holes, moves, outcome] : rows)
-        EXPECT_EQ(PlayBackground(stacks, button, holes, moves), outcome) << stacks << " " << moves;
-}
 
 // Settles table 3 with the stakes ("2:3000+2000:120": SeatTotalBet, SeatBet,
 // code, or "-" for a folded seat) and tells what each seat gained.
@@ -204,41 +127,32 @@ TEST(Balance, Outcomes) {
         const char* outcome;
         std::vector<std::pair<int, int>> at = {};  // position, record number found there
     } rows[] = {
-        {"xxxxxxxx xxxxxxxx xxxxxxxx", "8 8 8 Good Luck!"},
-        {"xxxxxxxx xxxxxx..", "8 6 Good Luck!"},
+        // clang-format off
+        {"xxxxxxxx xxxxxxxx xxxxxxxx", "8 8 8 Good Luck!"}, {"xxxxxxxx xxxxxx..", "8 6 Good Luck!"},
         {"xxxxxx.. xxxxx... xxxxx...", "6 5 5 Good Luck!"},  // 16 would fit on two tables
-        {"xxxxx... xxxxx...", "5 5 Good Luck!"},
-        {"xxxxxx.. xxxxx...", "6 5 Good Luck!"},
+        {"xxxxx... xxxxx...", "5 5 Good Luck!"}, {"xxxxxx.. xxxxx...", "6 5 Good Luck!"},
         // Lowest seat of the fullest (position 1 passed over) to the lowest free seat of the thinnest.
         {"xxxxxxx. xxxx....", "6 5 Good Luck!", {{2, 13}, {13, 2}}},
         {"xxxxxxxx xxxxxxxx xxx.....", "7 6 6 Good Luck!", {{20, 9}, {9, 20}, {21, 2}, {22, 10}}},
         {"xxxxxx.. xxxxxx.. xxxx....", "8 8 0 TWOMOVED Good Luck!"},
         // A break-up takes the highest table, not the smallest, and fills table 1 first.
-        {"xxxxx... xxx..... xxxxxxxx",
-         "8 8 0 THREEMOVED Good Luck!",
-         {{6, 17}, {7, 18}, {8, 19}, {12, 20}, {13, 21}, {14, 22}, {15, 23}, {16, 24}}},
+        {"xxxxx... xxx..... xxxxxxxx", "8 8 0 THREEMOVED Good Luck!", {{6, 17}, {7, 18}, {8, 19}, {12, 20}, {13, 21}, {14, 22}, {15, 23}, {16, 24}}},
         {"xxxx.... xxxx....", "8 0 FOURMOVED Final Table!"},
         {"x....... xxxxxxx.", "8 0 Final Table!"},  // seven joined: more than any sound tells
         {"xx...... xx...... xx...... xx......", "8 0 0 0 SIXMOVED Final Table!"},
-        {"xxx..... xx...... x.......", "6 0 0 THREEMOVED Final Table!"},
-        {"xxxxxxx. x.......", "8 0 MOVED Final Table!"},
+        {"xxx..... xx...... x.......", "6 0 0 THREEMOVED Final Table!"}, {"xxxxxxx. x.......", "8 0 MOVED Final Table!"},
         {"xxxx.... xx...... x.......", "7 0 0 THREEMOVED Final Table!"},
-        {"xxx..... xx...... xx......", "7 0 0 FOURMOVED Final Table!"},
-        {"xxx..... xxxxx...", "8 0 FIVEMOVED Final Table!"},
-        {"x....... x....... x....... x....... x....... x....... x....... x.......",
-         "8 0 0 0 0 0 0 0 Final Table!"},
+        {"xxx..... xx...... xx......", "7 0 0 FOURMOVED Final Table!"}, {"xxx..... xxxxx...", "8 0 FIVEMOVED Final Table!"},
+        {"x....... x....... x....... x....... x....... x....... x....... x.......", "8 0 0 0 0 0 0 0 Final Table!"},
         {"xxxxxx.. ........", "6 0 Final Table!"},  // announced again on every call
-        // Two tables become one within seats 2 to 8 of table 1.
+        // Two tables become one within seats 2 to 8 of table 1; position 1 is never a target.
         {"x.x.x... .....xxx", "6 0 THREEMOVED Final Table!", {{2, 14}, {4, 15}, {6, 16}}},
         {"x.....xx xxxxxxx.", "5 5 TWOMOVED Good Luck!", {{2, 9}, {3, 10}}},
-        {".xxx.... xxxxxxxx",
-         "5 6 TWOMOVED Good Luck!",
-         {{1, 1}, {5, 9}, {6, 10}}},  // position 1 never a target
+        {".xxx.... xxxxxxxx", "5 6 TWOMOVED Good Luck!", {{1, 1}, {5, 9}, {6, 10}}},
         // Nine on two tables shuttle for all 100 passes; 3,3,3 ends there too.
-        {"xxxxx... xxxx....", "5 4 Good Luck!"},
-        {"xxxx.... xxxxx...", "4 5 Good Luck!"},
-        {"xxxxxx.. xxx.....", "4 5 Good Luck!"},
-        {"xxx..... xxx..... xxx.....", "5 4 0 TWOMOVED Good Luck!"},
+        {"xxxxx... xxxx....", "5 4 Good Luck!"}, {"xxxx.... xxxxx...", "4 5 Good Luck!"},
+        {"xxxxxx.. xxx.....", "4 5 Good Luck!"}, {"xxx..... xxx..... xxx.....", "5 4 0 TWOMOVED Good Luck!"},
+        // clang-format on
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.before);
@@ -290,6 +204,124 @@ TEST(Balance, SingleTablesWideAndThinFields) {
     EXPECT_EQ(TableCounts(g, 125), counts);
     EXPECT_EQ(g.TablesInPlay * 10000 + g.PlayersLeft, 125 * 10000 + 993);
     ExpectPermutation(g, 1000);
+}
+
+// Stopped once and played on: the field ends with places 1..N, each once.
+void CheckPlayOut(Game& g, int players) {
+    g.view.logging = true;
+    const int userPlace = g.UserFinishPlace;
+    int rounds = 0;
+    PlayOutReport stopped = PlayOutField(g, [&](int) { return ++rounds < 2; });
+    EXPECT_FALSE(stopped.finished);
+    EXPECT_TRUE(CanPlayOutField(g)) << "a stopped field plays on later";
+    PlayOutReport report = PlayOutField(g);
+    ASSERT_TRUE(report.finished);
+    EXPECT_FALSE(CanPlayOutField(g));
+
+    std::vector<Standing> standings = FinalStandings(g);
+    ASSERT_EQ(standings.size(), static_cast<std::size_t>(players));
+    std::vector<int> numbers;
+    for (std::size_t i = 0; i < standings.size(); ++i) {
+        EXPECT_EQ(standings[i].place, static_cast<int>(i) + 1);
+        numbers.push_back(standings[i].number);
+        EXPECT_TRUE(standings[i].number != 1 || standings[i].place == userPlace);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    for (int i = 0; i < players; ++i) EXPECT_EQ(numbers[i], i + 1);
+    EXPECT_EQ(g.RosterBank[report.winnerPosition], players * 10000);
+    ASSERT_FALSE(g.view.log.empty());
+    EXPECT_EQ(FormatLogLine(g.view.log.back()),
+              standings.front().name + (players > 8 ? " wins the tournament" : " wins the game"));
+}
+
+TEST(PlayOut, FieldEndsWithOneWinnerAndEveryPlaceOnce) {
+    for (int players : {8, 80, 200, 1000}) {
+        SCOPED_TRACE(players);
+        bool playedOut = false;
+        for (uint64_t seed = 1; seed <= 10 && !playedOut; ++seed) {
+            sim::PlayOneGame(HOLDEM_ASSETS, players, seed, sim::Policy::Folder, nullptr, [&](Game& g) {
+                if (!CanPlayOutField(g)) return;
+                CheckPlayOut(g, players);
+                playedOut = true;
+            });
+        }
+        EXPECT_TRUE(playedOut);
+    }
+}
+
+TEST(TourneyFigures, FromTheRosterAfterARound) {
+    test::ScriptedPlatform p;
+    Game g(p);
+    g.TournamentSize = 80;
+    for (int pos = 1; pos <= 80; ++pos) {
+        g.RosterNumber[pos] = static_cast<int16_t>(pos);
+        g.RosterBank[pos] = pos <= 40 ? 1000 * pos : 0;
+    }
+    g.RosterBank[1] = 25500;
+    g.BalanceTables();
+    g.SmallBlind = 400;
+    TourneyFigures f = ComputeTourneyFigures(g);
+    // The user 16th ($26,000 .. $40,000 stand above); $844,500 over 40, rounded.
+    EXPECT_EQ(std::vector<int64_t>({f.fieldSize, f.playersLeft, f.tablesInPlay, f.smallBlind, f.nextRiseAt,
+                                    f.nextSmallBlind, f.userPlace, f.averageStack}),
+              std::vector<int64_t>({80, 40, 5, 400, 40, 600, 16, 21113}));
+
+    g.RosterBank[1] = 0;
+    EXPECT_EQ(ComputeTourneyFigures(g).userPlace, 0);
+}
+
+TEST(TourneyFigures, NextRiseOfTheBlinds) {
+    const std::array<int, 4> cases[] = {{1000, 100, 900, 200}, {1000, 25000, 3, 35000}, {1000, 35000, 0, 0},
+                                        {200, 1500, 30, 2000}, {80, 4000, 3, 8000},     {8, 600, 2, 1000},
+                                        {80, 150, 0, 0}};
+    for (auto [size, smallBlind, riseAt, next] : cases) {
+        BlindRise rise = NextBlindRise(static_cast<int16_t>(size), smallBlind);
+        EXPECT_EQ(std::make_pair(rise.playersLeft, rise.smallBlind), std::make_pair(riseAt, next))
+            << size << " at " << smallBlind;
+    }
+}
+
+// What a hand leaves behind, as text, to compare two runs field by field.
+std::vector<std::string> Snapshot(const Game& g, const test::ScriptedPlatform& p) {
+    std::vector<std::string> out = {
+        "draws " + std::to_string(g.rnd.Draws()),         "left " + std::to_string(g.PlayersLeft),
+        "tables " + std::to_string(g.TablesInPlay),       "blind " + std::to_string(g.SmallBlind),
+        "deal " + std::to_string(g.view.cmdDeal.visible), "pauses " + std::to_string(p.pauses)};
+    for (int pos = 1; pos <= g.TournamentSize; ++pos)
+        out.push_back(std::to_string(pos) + ": " + g.RosterName[pos] + " " +
+                      std::to_string(g.RosterBank[pos]) + " " + std::to_string(g.RosterPlace[pos]));
+    for (int s = 1; s <= kSeats; ++s)
+        out.push_back(g.view.lblBet[s].text + "|" + g.view.lblPaid[s].text + "|" + g.view.lblBank[s].text +
+                      "|" + std::to_string(g.view.icard[s].visible) +
+                      std::to_string(g.view.iArrow[s].visible));
+    for (const std::string& sound : p.sounds) out.push_back(sound);
+    for (const LogLine& line : g.view.log) out.push_back(FormatLogLine(line));
+    return out;
+}
+
+// The user folds at the first turn; the rest of the hand runs tick by tick
+// as the window's timers would fire it, or all at once by FinishHand.
+std::vector<std::string> FoldAndFinish(int players, uint64_t seed, bool hurry) {
+    test::ScriptedPlatform p;
+    Game g(p);
+    g.AppFolder = HOLDEM_ASSETS;
+    g.rnd.SeedDeterministic(seed);
+    sim::SetUpGame(g, players);
+    for (; g.RunningTimer() != kTimerCount; g.FireTimer(g.RunningTimer())) EXPECT_FALSE(CanFinishHand(g));
+    if (g.view.cmdPlay[4].visible) g.cmdPlay_Click(4);
+    EXPECT_EQ(CanFinishHand(g), g.RunningTimer() != kTimerCount);
+    hurry ? void(FinishHand(g)) : test::RunTimers(g);
+    EXPECT_FALSE(CanFinishHand(g));
+    return Snapshot(g, p);
+}
+
+TEST(FinishHand, SameOutcomeAndDrawsAsTheTimers) {
+    for (int players : {8, 80, 1000}) {
+        for (uint64_t seed = 1; seed <= 4; ++seed) {
+            SCOPED_TRACE(std::to_string(players) + " players, seed " + std::to_string(seed));
+            EXPECT_EQ(FoldAndFinish(players, seed, true), FoldAndFinish(players, seed, false));
+        }
+    }
 }
 
 }  // namespace

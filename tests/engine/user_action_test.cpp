@@ -12,20 +12,11 @@
 namespace holdem {
 namespace {
 
-struct Turn {
-    int street;
-    const char* stakes;  // "seat:bet" this street; "-seat" folded
-    int32_t bank;        // the user's stack before the stakes
-    int highIndex;
-    int32_t highValue;
-    int button;
-    int press;
-    int32_t dialog;       // what the bet dialog hands back
-    const char* opened;   // lblBet(1) and the enabled buttons when the turn opens
-    const char* outcome;  // lblBet(1) | timer | HighBetIndex/Value | bank, pot | CurrentSeat | message
-};
-
 // clang-format off
+// The stakes are "seat:bet" this street, "-seat" folded; the bank is the user's stack before them; the
+// dialog, what the bet dialog hands back. Opened: lblBet(1) and the enabled buttons when the turn opens.
+// Outcome: lblBet(1) | timer | HighBetIndex/Value | bank, pot | CurrentSeat | message.
+struct Turn { int street; const char* stakes; int32_t bank; int highIndex; int32_t highValue; int button, press; int32_t dialog; const char *opened, *outcome; };
 const Turn kTurns[] = {
     {2, "4:600", 10000, 4, 600, 1, 2, 0, "Amount to Call: $600 234", "Called $600 | 3 | 4/600 | 9400 1200 | 2 |"},
     {2, "4:600", 0, 4, 600, 1, 3, 0, "Amount to Call: $600 134", "Amount to Call: $600 | 9 | 4/600 | 0 600 | 1 | You're all in. You have no more chips to bet!"},
@@ -55,18 +46,23 @@ const Turn kTurns[] = {
 };
 // clang-format on
 
-// The table after StartHand with the button on seat 1 and the blinds taken
-// back: every seat in with $10,000, the user to act.
+// StartHand on a full table of $10,000 stacks, the button on seat 1, no timer running.
+void StartFullTable(Game& g) {
+    test::SeatTable(g, std::vector<int32_t>(kSeats, 10000), 8);
+    g.rnd.Script(std::vector<float>(52, 0.0f));
+    g.StartHand();
+    g.StopHandTimers();
+}
+
+// The table after StartHand with the blinds taken back: every seat in with
+// $10,000, the user to act.
 TEST(UserAction, OpeningTheTurnAndEachPress) {
     for (const Turn& t : kTurns) {
         SCOPED_TRACE(::testing::Message() << "row " << &t - kTurns);
         test::ScriptedPlatform p;
         Game g(p);
-        test::SeatTable(g, {10000, 10000, 10000, 10000, 10000, 10000, 10000, 10000}, 8);
-        g.rnd.Script(std::vector<float>(52, 0.0f));
-        g.StartHand();
-        g.SeatBet = {};
-        g.Pot = 0;
+        StartFullTable(g);
+        g.SeatBet = {}, g.Pot = 0;
         for (int s = 1; s <= kSeats; ++s) g.SeatBank[s] = s == 1 ? static_cast<float>(t.bank) : 10000.0f;
         std::istringstream in(t.stakes);
         for (std::string st; in >> st;) {
@@ -75,12 +71,9 @@ TEST(UserAction, OpeningTheTurnAndEachPress) {
             int32_t bet = st.find(':') == std::string::npos ? 0 : std::stoi(st.substr(st.find(':') + 1));
             g.SeatBet[seat] = bet, g.SeatBank[seat] -= static_cast<float>(bet), g.Pot += bet;
         }
-        g.CurrentSeat = 1, g.PreviousSeat = 8;
-        g.Street = static_cast<int16_t>(t.street);
-        g.ButtonSeat = static_cast<int16_t>(t.button);
+        g.CurrentSeat = 1, g.PreviousSeat = 8, g.HighBetValue = t.highValue;
+        g.Street = static_cast<int16_t>(t.street), g.ButtonSeat = static_cast<int16_t>(t.button);
         g.HighBetIndex = static_cast<int16_t>(t.highIndex);
-        g.HighBetValue = t.highValue;
-        g.StopHandTimers();
         g.EnableTimer(static_cast<TimerId>(2 * t.street - 1));
         g.view.icard[1].visible = g.view.icard[9].visible = true;
         g.OpenUserTurn();
@@ -123,10 +116,7 @@ TEST(UserAction, OpeningTheTurnAndEachPress) {
 TEST(UserAction, IgnoredPressesAndSilence) {
     test::ScriptedPlatform p;
     Game g(p);
-    test::SeatTable(g, {10000, 10000, 10000, 10000, 10000, 10000, 10000, 10000}, 8);
-    g.rnd.Script(std::vector<float>(52, 0.0f));
-    g.StartHand();
-    g.StopHandTimers();
+    StartFullTable(g);
     g.CurrentSeat = 1;
     g.OpenUserTurn();
     p.sounds.clear();
@@ -134,8 +124,7 @@ TEST(UserAction, IgnoredPressesAndSilence) {
     EXPECT_EQ(g.view.lblBet[1].text, "Amount to Call: $200");
     EXPECT_TRUE(p.sounds.empty());
     g.view.mnuSound.checked = false;
-    g.cmdPlay_Click(2);
-    g.cmdPlay_Click(2);
+    for (int i : {2, 2}) g.cmdPlay_Click(i);
     EXPECT_EQ(g.SeatBet[1], 200);
     EXPECT_TRUE(p.sounds.empty());
 }
@@ -162,42 +151,30 @@ TEST(BetAmount, OkAndEnterCheckTheAmount) {
     const BetAmountRequest raise{4, 600, 600, 5050}, bet{0, 0, 0, 3000}, checked{3, 0, 0, 3000},
         rich{2, 2'000'000'000, 2'000'000'000, 2'147'483'000};
     const char* const kHundreds = "You must bet in multiples of $100.|0|1 Texas Hold'em";
+    const char* const kStack = "|1|1 Bet Exceeds Your Chip Stack";
     struct Row {
         const BetAmountRequest& request;
         const char* text;
         bool enter;
-        const char* outcome;  // closes with BetAmount, or message|clears the text|icon
+        std::string outcome;  // closes with BetAmount, or message|clears the text|icon
     } rows[] = {
-        {raise, "", false, "No bet entered|1|0 Texas Hold'em"},
-        {raise, "0", false, "No bet entered|1|0 Texas Hold'em"},
-        {raise, "000", false, "No bet entered|1|0 Texas Hold'em"},
-        {raise, "", true, "No bet entered|0|0 Texas Hold'em"},
-        {raise, "0", true, "close 0"},
-        {raise, "150", false, kHundreds},
-        {raise, "50", false, kHundreds},
-        {raise, "1", false, kHundreds},
-        {raise, "4450", false, kHundreds},
-        {raise, "1001", false, kHundreds},
-        {raise, "250", true, kHundreds},
-        {raise, "100", false, "close 700"},
-        {raise, "4400", false, "close 5000"},
-        {raise, "200", true, "close 800"},
-        {bet, "3000", false, "close 3000"},
-        {bet, "0100", false, "close 100"},
-        {checked, "500", false, "close 500"},
-        {bet, "-100", false, kHundreds},
-        {bet, "1e3", false, kHundreds},
-        {bet, "1,000", false, kHundreds},
-        {bet, " 100", false, kHundreds},
-        {bet, "abc", false, kHundreds},
+        // clang-format off
+        {raise, "", false, "No bet entered|1|0 Texas Hold'em"}, {raise, "0", false, "No bet entered|1|0 Texas Hold'em"},
+        {raise, "000", false, "No bet entered|1|0 Texas Hold'em"}, {raise, "", true, "No bet entered|0|0 Texas Hold'em"},
+        {raise, "0", true, "close 0"}, {raise, "150", false, kHundreds}, {raise, "50", false, kHundreds},
+        {raise, "1", false, kHundreds}, {raise, "4450", false, kHundreds}, {raise, "1001", false, kHundreds},
+        {raise, "250", true, kHundreds}, {raise, "100", false, "close 700"}, {raise, "4400", false, "close 5000"},
+        {raise, "200", true, "close 800"}, {bet, "3000", false, "close 3000"}, {bet, "0100", false, "close 100"},
+        {checked, "500", false, "close 500"}, {bet, "-100", false, kHundreds}, {bet, "1e3", false, kHundreds},
+        {bet, "1,000", false, kHundreds}, {bet, " 100", false, kHundreds}, {bet, "abc", false, kHundreds},
         {bet, "99999999999999999999999999999950", false, kHundreds},
-        {raise, "4500", false, "You've only got $5,050.|1|1 Bet Exceeds Your Chip Stack"},
-        {raise, "9900", true, "You've only got $5,050.|1|1 Bet Exceeds Your Chip Stack"},
-        {bet, "3100", false, "You've only got $3,000.|1|1 Bet Exceeds Your Chip Stack"},
-        {bet, "2147483700", false, "You've only got $3,000.|1|1 Bet Exceeds Your Chip Stack"},
-        {bet, "99999999999999999999999999999900", false,
-         "You've only got $3,000.|1|1 Bet Exceeds Your Chip Stack"},
-        {rich, "2147483600", false, "You've only got $2,147,483,000.|1|1 Bet Exceeds Your Chip Stack"},
+        {raise, "4500", false, std::string("You've only got $5,050.") + kStack},
+        {raise, "9900", true, std::string("You've only got $5,050.") + kStack},
+        {bet, "3100", false, std::string("You've only got $3,000.") + kStack},
+        {bet, "2147483700", false, std::string("You've only got $3,000.") + kStack},
+        {bet, "99999999999999999999999999999900", false, std::string("You've only got $3,000.") + kStack},
+        {rich, "2147483600", false, std::string("You've only got $2,147,483,000.") + kStack},
+        // clang-format on
     };
     for (const Row& r : rows) {
         BetAmountOutcome out = r.enter ? BetAmountEnter(r.request, r.text) : BetAmountOk(r.request, r.text);

@@ -7,20 +7,17 @@
 
 namespace holdem::test {
 
-int16_t CardOf(const std::string& name) {
-    static const std::string kRanks = "23456789TJQKA", kSuits = "hsdc";
-    if (name.size() != 2) return 0;
-    auto rank = kRanks.find(name[0]), suit = kSuits.find(name[1]);
-    if (rank == std::string::npos || suit == std::string::npos) return 0;
-    return static_cast<int16_t>(suit * 13 + rank + 1);
-}
-
 std::vector<int16_t> CardsOf(const std::string& names) {
+    static const std::string kRanks = "23456789TJQKA", kSuits = "hsdc";
     std::string packed;
     for (char c : names)
         if (c != ' ') packed += c;
     std::vector<int16_t> cards;
-    for (std::size_t i = 0; i + 1 < packed.size(); i += 2) cards.push_back(CardOf(packed.substr(i, 2)));
+    for (std::size_t i = 0; i + 1 < packed.size(); i += 2) {
+        auto rank = kRanks.find(packed[i]), suit = kSuits.find(packed[i + 1]);
+        bool known = rank != std::string::npos && suit != std::string::npos;
+        cards.push_back(static_cast<int16_t>(known ? suit * 13 + rank + 1 : 0));
+    }
     return cards;
 }
 
@@ -138,6 +135,10 @@ void ExpectSettled(const Game& g) {
     EXPECT_EQ(g.rnd.Overdrawn(), 0) << "draws beyond the script";
     std::string why;
     EXPECT_TRUE(g.state_is_ok(&why)) << why;
+}
+
+void RunTimers(Game& g) {
+    while (g.RunningTimer() != kTimerCount) g.FireTimer(g.RunningTimer());
 }
 
 HandCategory CategoryOfCode(int code) {

@@ -12,10 +12,9 @@
 
 namespace holdem::test {
 
-// "Ah", "Td", "2c": rank 2..9, T, J, Q, K, A, then h, s, d or c for the four
-// suit blocks in their order. 0 for text it cannot read.
-int16_t CardOf(const std::string& name);
-// "AhKd 2c7s": every two characters a card, spaces ignored.
+// "AhKd 2c7s": every two characters a card, spaces ignored: rank 2..9, T, J,
+// Q, K, A, then h, s, d or c for the four suit blocks in their order; 0 for
+// a card it cannot read.
 std::vector<int16_t> CardsOf(const std::string& names);
 
 // The five board cards into Deck[16..20] and elements 3..7 of every seat.
@@ -46,20 +45,13 @@ std::vector<float> Draws(std::initializer_list<std::vector<float>> parts);
 
 // Every scripted draw taken and none beyond; the state's invariants hold.
 void ExpectSettled(const Game& g);
+// Fires the running timer until none runs: the rest of the hand as the window would play it.
+void RunTimers(Game& g);
 
 // The nine classes of poker hands, weakest first, and the class of a code.
-enum HandCategory {
-    HighCard,
-    Pair,
-    TwoPair,
-    Trips,
-    Straight,
-    Flush,
-    FullHouse,
-    Quads,
-    StraightFlush,
-    kCategories
-};
+// clang-format off
+enum HandCategory { HighCard, Pair, TwoPair, Trips, Straight, Flush, FullHouse, Quads, StraightFlush, kCategories };
+// clang-format on
 HandCategory CategoryOfCode(int code);
 
 }  // namespace holdem::test

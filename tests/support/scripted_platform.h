@@ -19,14 +19,25 @@ struct MessageCall {
 class ScriptedPlatform : public Platform {
 public:
     MsgAnswer MessageBox(const std::string& text, const std::string& title, MsgIcon icon,
-                         MsgButtons buttons) override;
-    std::optional<std::string> OpenFileDialog(const FileDialogRequest& request) override;
-    std::optional<std::string> SaveFileDialog(const FileDialogRequest& request) override;
+                         MsgButtons buttons) override {
+        messages.push_back({text, title, icon, buttons});
+        return Take(answers, MsgAnswer::OK);
+    }
+    std::optional<std::string> OpenFileDialog(const FileDialogRequest& r) override {
+        return openDialogs.push_back(r), Take(openPaths, {});
+    }
+    std::optional<std::string> SaveFileDialog(const FileDialogRequest& r) override {
+        return saveDialogs.push_back(r), Take(savePaths, {});
+    }
     void PlaySound(const std::string& name) override { sounds.push_back(name); }
     void Pause() override { ++pauses; }
-    int32_t ShowBetAmount(const BetAmountRequest& request) override;
-    NewGameChoices ShowNewGame(int16_t gameSpeed) override;
-    std::string ShowPlayerName() override;
+    int32_t ShowBetAmount(const BetAmountRequest& r) override {
+        return betRequests.push_back(r), Take(betAmounts, 0);
+    }
+    NewGameChoices ShowNewGame(int16_t speed) override {
+        return newGameSpeeds.push_back(speed), Take(newGames, {});
+    }
+    std::string ShowPlayerName() override { return ++playerNameCalls, Take(playerNames, {}); }
     void ShowGameOver(int16_t userFinishPlace) override { gameOvers.push_back(userFinishPlace); }
     void ShowPotBreakdown(const PotBreakdown& b) override { breakdowns.push_back(b); }
     void ShowStandings(const std::string& path) override { standings.push_back(path); }
@@ -52,6 +63,15 @@ public:
     std::vector<PotBreakdown> breakdowns;
     std::vector<std::string> standings, floors;
     std::vector<InfoForm> infos;
+
+private:
+    template <typename T>
+    static T Take(std::deque<T>& queue, T fallback) {
+        if (queue.empty()) return fallback;
+        T value = queue.front();
+        queue.pop_front();
+        return value;
+    }
 };
 
 }  // namespace holdem::test
