@@ -296,5 +296,42 @@ TEST_F(MutationTest, SavedGamesAndListsOfPlayersOpenOrLeaveTheGameInPlayAsItWas)
     EXPECT_GT(refused, kInputs / 2);
 }
 
+TEST_F(MutationTest, SettingsStandingsAndTipsAreReadOrLeftAtTheirDefaults) {
+    const std::string settings = "3,#FALSE#,#TRUE#\r\n",
+                      standings = RosterText(80, 12, 3, 200, FieldLines(80)),
+                      tips = ReadAll(ShippedFile(kTipsFileName));
+    std::mt19937 rng(20240608);
+    int settingsRead = 0, standingsRead = 0;
+    for (int i = 0; i < kInputs; ++i) {
+        SCOPED_TRACE("input " + std::to_string(i));
+        Game game(p);
+        game.AppFolder = dir.File(std::to_string(i)) + "/";
+        std::filesystem::create_directory(game.AppFolder);
+        WriteAll(game.AppFolder + "settings.dft", Mutate(settings, rng));
+        WriteAll(game.AppFolder + "stnd.dat", Mutate(standings, rng));
+        WriteAll(game.AppFolder + kTipsFileName, Mutate(tips, rng));
+        game.ReadSettings();
+        const int16_t speed = game.GameSpeed >= 1 && game.GameSpeed <= 3 ? game.GameSpeed : 2;
+        settingsRead += game.GameSpeed != 2 || !game.SoundOn;  // not the defaults
+        const View& v = game.view;
+        EXPECT_EQ(std::make_tuple(v.mnuFastSpeed.checked, v.mnuMediumSpeed.checked, v.mnuSlowSpeed.checked,
+                                  v.mnuSound.checked, v.mnuTips.checked),
+                  std::make_tuple(speed == 1, speed == 2, speed == 3, game.SoundOn, game.TipsAtStartup));
+        FieldCopy copy;
+        const int16_t count = ReadFieldCopy(game.AppFolder + "stnd.dat", copy);
+        ASSERT_TRUE(count >= 0 && count <= kRoster);
+        standingsRead += count == 80 && copy.Name[80] == "Player No. 80";
+        TipBox box;
+        game.rnd.SeedDeterministic(static_cast<uint64_t>(i));
+        ASSERT_TRUE(LoadTips(box, game.rnd, game.AppFolder + kTipsFileName));
+        if (!box.Tips.empty()) {
+            ASSERT_EQ(box.lblTipText, box.Tips.at(static_cast<std::size_t>(box.CurrentTip - 1)));
+        }
+        std::filesystem::remove_all(game.AppFolder);
+    }
+    EXPECT_GT(settingsRead, kInputs / 20);
+    EXPECT_GT(standingsRead, kInputs / 20);
+}
+
 }  // namespace
 }  // namespace holdem::test
