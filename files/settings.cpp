@@ -84,15 +84,25 @@ void Game::ReadSettings() {
     int16_t speed = kDefaultSpeed;
     bool sound = true;
     bool tips = true;
+    std::string path;
     try {
-        std::string userPath = UserSettingsPath(*this);
-        SeqReader in(FileExists(userPath) ? userPath : AppFolder + kSettingsFile, kMaxSettingsFileBytes);
+        const std::string userPath = UserSettingsPath(*this);
+        path = FileExists(userPath) ? userPath : AppFolder + kSettingsFile;
+        SeqReader in(path, kMaxSettingsFileBytes);
         int16_t fileSpeed = in.ReadInt16();
         bool fileSound = in.ReadBool();
         bool fileTips = in.ReadBool();
         speed = fileSpeed;
         sound = fileSound;
         tips = fileTips;
+    } catch (const FileError& e) {
+        // Damage is mended by the next exit, which writes the file anew; a file
+        // too large to be ours was put there by something else, so say so.
+        std::error_code ec;
+        if (std::filesystem::file_size(path, ec) > kMaxSettingsFileBytes && !ec)
+            platform->MessageBox(
+                std::string("The settings were not read; the game starts with its usual ones.\n") + e.what(),
+                "Texas Hold'em", MsgIcon::Exclamation, MsgButtons::OK);
     } catch (const std::exception&) {
     }
     GameSpeed = speed;

@@ -207,6 +207,10 @@ TEST_F(SafetyTest, EveryFileOverItsLimitIsRefusedAndOneAtItsLimitRead) {
                   over ? std::make_tuple(2, true, 0, 0u, 1u) : std::make_tuple(3, false, 8, 2u, 0u));
         EXPECT_EQ(box.lblTipText,
                   over ? "Cannot read " + tips + ": the file is larger than 1 MB." : "One tip");
+        if (over)
+            ExpectMessage("The settings were not read; the game starts with its usual ones.",
+                          "Texas Hold'em");
+        EXPECT_TRUE(p.messages.empty());
     }
 }
 
