@@ -74,20 +74,7 @@ frmCasinoFloor::frmCasinoFloor(const std::string& standingsPath, QWidget* parent
         Draw();
     });
     connect(lblClose, &ClickLabel::clicked, this, &QDialog::accept);
-    auto room = [this](void (*step)(Floor&), const ClickLabel* enabledBy, bool toEnd) {
-        return [this, step, enabledBy, toEnd] {
-            do {
-                if (!enabledBy->isEnabled()) break;
-                step(f_);
-                Draw();
-            } while (toEnd);
-        };
-    };
-    OnKey(this, Qt::Key_PageDown, room(lblNext_Click, lblNext, false));
-    OnKey(this, Qt::Key_PageUp, room(lblPrevious_Click, lblPrevious, false));
-    OnKey(this, Qt::Key_End, room(lblNext_Click, lblNext, true));
-    OnKey(this, Qt::Key_Home, room(lblPrevious_Click, lblPrevious, true));
-    OnKey(this, Qt::Key_Return, [this] { accept(); });
+    PagingKeys(this, lblNext, lblPrevious);
 
     OpenFloor(f_, standingsPath);
     Draw();

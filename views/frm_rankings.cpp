@@ -60,21 +60,7 @@ frmRankings::frmRankings(const std::string& standingsPath, QWidget* parent) : QD
         Draw();
     });
     connect(lblClose, &ClickLabel::clicked, this, &QDialog::accept);
-    // The keys of any list: a page at a time, or to either end.
-    auto page = [this](void (*step)(Standings&), const ClickLabel* enabledBy, bool toEnd) {
-        return [this, step, enabledBy, toEnd] {
-            do {
-                if (!enabledBy->isEnabled()) break;
-                step(s_);
-                Draw();
-            } while (toEnd);
-        };
-    };
-    OnKey(this, Qt::Key_PageDown, page(lblNext_Click, lblNext, false));
-    OnKey(this, Qt::Key_PageUp, page(lblPrevious_Click, lblPrevious, false));
-    OnKey(this, Qt::Key_End, page(lblNext_Click, lblNext, true));
-    OnKey(this, Qt::Key_Home, page(lblPrevious_Click, lblPrevious, true));
-    OnKey(this, Qt::Key_Return, [this] { accept(); });
+    PagingKeys(this, lblNext, lblPrevious);
 
     OpenStandings(s_, standingsPath);
     Draw();

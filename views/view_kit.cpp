@@ -49,6 +49,22 @@ void OnKey(QWidget* dialog, Qt::Key key, const std::function<void()>& action) {
     if (key == Qt::Key_Return) OnKey(dialog, Qt::Key_Enter, action);
 }
 
+void PagingKeys(QDialog* form, ClickLabel* next, ClickLabel* previous) {
+    auto turn = [](ClickLabel* label, bool toEnd) {
+        return [label, toEnd] {
+            do {
+                if (!label->isEnabled()) break;
+                emit label->clicked();
+            } while (toEnd);
+        };
+    };
+    OnKey(form, Qt::Key_PageDown, turn(next, false));
+    OnKey(form, Qt::Key_PageUp, turn(previous, false));
+    OnKey(form, Qt::Key_End, turn(next, true));
+    OnKey(form, Qt::Key_Home, turn(previous, true));
+    OnKey(form, Qt::Key_Return, [form] { form->accept(); });
+}
+
 void SetBlankTitle(QWidget* form) { form->setWindowTitle(QStringLiteral(" ")); }
 
 void CentreOver(QWidget* dialog, const QWidget* window) {

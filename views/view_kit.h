@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QColor>
+#include <QDialog>
 #include <QLabel>
 #include <QPixmap>
 #include <QRect>
@@ -146,6 +147,9 @@ private:
 // Runs action on key (and on the keypad's Enter too when key is Return)
 // while the dialog or a widget in it has the keyboard.
 void OnKey(QWidget* dialog, Qt::Key key, const std::function<void()>& action);
+// The keys of a paged form: PageDown and PageUp do what a click on next or
+// previous does, End and Home repeat it to either end, Enter closes the form.
+void PagingKeys(QDialog* form, ClickLabel* next, ClickLabel* previous);
 // A form whose caption is to show no text: an empty one would show the
 // program's name instead.
 void SetBlankTitle(QWidget* form);
