@@ -86,16 +86,7 @@ void Game::PlayTableHand(int t) {
     HighBetValue = 2 * SmallBlind;
 
     for (int s = 1; s <= kSeats; ++s) std::fill(std::begin(SeatCards[s]), std::end(SeatCards[s]), int16_t{0});
-    for (int i = 0; i < kDeckSize; ++i) CardPool[i] = static_cast<int16_t>(i + 1);
-    rnd.Randomize();
-    rnd.Randomize();
-    rnd.Randomize();
-    for (int i = 0; i < kDeckSize; ++i) {
-        int k = kDeckSize - 1 - i;
-        int j = static_cast<int>(RoundHalfEven(static_cast<float>(k) * rnd.Rnd()));
-        Deck[i] = CardPool[j];
-        CardPool[j] = CardPool[k];
-    }
+    ShuffleDeck();
 
     // Deck[0..7] go once round from the seat after the button, empty seats
     // included; Deck[8..15] a second time; Deck[16..20] is everyone's board.

@@ -114,6 +114,9 @@ public:
     // ---- Starting a hand (start_hand.cpp) ---------------------------------
     void StartHand();
     void cmdDeal_Click();
+    // Three reseeds, then one draw per card into Deck; the shown table and the
+    // background tables shuffle alike.
+    void ShuffleDeck();
 
     // ---- The timer chain (streets.cpp) ------------------------------------
     void TimerDealHole_Timer();

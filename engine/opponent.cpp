@@ -1,6 +1,7 @@
 // The computer players' rule: the class of the hole cards, the two chances
 // that RateHand gives a seat, and the move drawn against them. One move
 // routine per street group serves the shown table and the background tables.
+#include <algorithm>
 #include <cstdint>
 #include <iterator>
 #include <limits>
@@ -21,7 +22,7 @@ constexpr int kJack = 10;  // Jack and up count as high; a Ten is low
 
 // The order of the two cards counts: high then low is class 5 whatever the
 // suits, low then high unsuited is class 6.
-int HoleCardClass(int first, int second) {
+constexpr int HoleCardClass(int first, int second) {
     int r1 = RankOf(first);
     int r2 = RankOf(second);
     bool suited = SuitOf(first) == SuitOf(second);
@@ -32,6 +33,21 @@ int HoleCardClass(int first, int second) {
     if (high1) return 5;
     if (high2) return suited ? 5 : 6;
     return suited ? 7 : 8;
+}
+
+// The class of every ordered pair of cards 0..52, worked out once: the
+// background tables classify eight seats a hand, and the branches of
+// HoleCardClass on random cards cost more than the look-up.
+constexpr auto kHoleCardClass = [] {
+    std::array<std::array<int8_t, kDeckSize + 1>, kDeckSize + 1> classes{};
+    for (int a = 0; a <= kDeckSize; ++a)
+        for (int b = 0; b <= kDeckSize; ++b) classes[a][b] = static_cast<int8_t>(HoleCardClass(a, b));
+    return classes;
+}();
+
+int HoleClassOf(int first, int second) {
+    if (first >= 0 && first <= kDeckSize && second >= 0 && second <= kDeckSize) return kHoleCardClass[first][second];
+    return HoleCardClass(first, second);
 }
 
 // ---- Rating tables ------------------------------------------------------------
@@ -100,47 +116,50 @@ constexpr auto kTwoPairRanks = [] {
     return ranks;
 }();
 
-// h(rank): how many of the seat's two hole cards have the rank.
-int HoleCount(const Game& g, int seat, int rank) {
-    return (RankOf(g.SeatCards[seat][1]) == rank ? 1 : 0) + (RankOf(g.SeatCards[seat][2]) == rank ? 1 : 0);
-}
+// For each code 0..kNoHand: the ranks whose hole cards count (-1 for none;
+// two-pair codes count both pairs) and the chances by that count h, 0 to 2.
+// Rows that count nothing give h2 whatever h is. Worked out once, so that
+// rating a seat is a look-up with no branch on random cards: the background
+// tables rate thousands of seats a round.
+struct CodeRating {
+    int8_t rankA = -1, rankB = -1;
+    std::array<Chances, 3> byCount{};
+};
 
-int HoleCountOfHand(const Game& g, int seat, int code, Counted counted) {
-    switch (counted) {
-        case Counted::Trips:
-            return HoleCount(g, seat, kAce - (code - kFirstTrips));
-        case Counted::Pair:
-            return HoleCount(g, seat, kAce - (code - kFirstPair));
-        case Counted::TwoPair: {
-            TwoRanks r = kTwoPairRanks[code - kFirstTwoPair];
-            return HoleCount(g, seat, r.high) + HoleCount(g, seat, r.low);
-        }
-        case Counted::Nothing:
-            break;
-    }
-    return 2;
-}
-
-// The row of kCodeRows for each code 0..kNoHand, so that rating a seat is a
-// look-up and not a search: the background tables rate thousands of seats a
-// round.
-constexpr auto kRowOfCode = [] {
-    std::array<uint8_t, kNoHand + 1> rows{};
+constexpr auto kRatingOfCode = [] {
+    std::array<CodeRating, kNoHand + 1> ratings{};
     std::size_t row = 0;
     for (int code = 0; code <= kNoHand; ++code) {
         while (code > kCodeRows[row].last) ++row;
-        rows[code] = static_cast<uint8_t>(row);
+        const CodeRow& r = kCodeRows[row];
+        CodeRating& rating = ratings[code];
+        switch (r.counted) {
+            case Counted::Trips:
+                rating.rankA = static_cast<int8_t>(kAce - (code - kFirstTrips));
+                break;
+            case Counted::Pair:
+                rating.rankA = static_cast<int8_t>(kAce - (code - kFirstPair));
+                break;
+            case Counted::TwoPair:
+                rating.rankA = kTwoPairRanks[code - kFirstTwoPair].high;
+                rating.rankB = kTwoPairRanks[code - kFirstTwoPair].low;
+                break;
+            case Counted::Nothing:
+                break;
+        }
+        rating.byCount = r.counted == Counted::Nothing ? std::array{r.h2, r.h2, r.h2} : std::array{r.h0, r.h1, r.h2};
     }
-    return rows;
+    return ratings;
 }();
 
 Chances ChancesAfterFlop(const Game& g, int seat) {
     int code = g.SeatHandCode[seat];
     if (code < 1 || code > kNoHand) code = kNoHand;
-    const CodeRow& row = kCodeRows[kRowOfCode[code]];
-    if (row.counted == Counted::Nothing) return row.h2;
-    int h = HoleCountOfHand(g, seat, code, row.counted);
-    return h >= 2 ? row.h2 : h == 1 ? row.h1 : row.h0;
+    const CodeRating& rating = kRatingOfCode[code];
+    const int r1 = RankOf(g.SeatCards[seat][1]);
+    const int r2 = RankOf(g.SeatCards[seat][2]);
+    const int h = (r1 == rating.rankA) + (r2 == rating.rankA) + (r1 == rating.rankB) + (r2 == rating.rankB);
+    return rating.byCount[std::min(h, 2)];
 }
 
 // ---- The move: what differs between the shown table and a background table --
@@ -285,7 +304,7 @@ void SettleNothingToCall(Game& g, int s, int32_t amount, bool background) {
 
 void Game::ClassifyHoleCards() {
     for (int s = 1; s <= kSeats; ++s)
-        StartingHandClass[s] = static_cast<int16_t>(HoleCardClass(SeatCards[s][1], SeatCards[s][2]));
+        StartingHandClass[s] = static_cast<int16_t>(HoleClassOf(SeatCards[s][1], SeatCards[s][2]));
 }
 
 void Game::RateHand(int seat) {

@@ -28,6 +28,18 @@ public:
         // 24 random bits fill a float's mantissa exactly: uniform on [0, 1).
         return static_cast<float>(Next() >> 40) * (1.0f / 16777216.0f);
     }
+    // As many draws as `out` holds, the same as that many calls of Rnd().
+    template <std::size_t N>
+    void Rnd(float (&out)[N]) {
+        draws_ += N;
+        if (scripted_) {
+            for (float& d : out) d = ScriptedDraw();
+            return;
+        }
+        uint64_t x = state_;
+        for (float& d : out) d = static_cast<float>(SplitMix(x) >> 40) * (1.0f / 16777216.0f);
+        state_ = x;
+    }
     void Randomize();
 
     // From now on Randomize() reseeds from a sequence fixed by this seed, so

@@ -111,21 +111,6 @@ void PostBlind(Game& g, int seat, int32_t blind, const char* words) {
     ShowBank(g, seat);
 }
 
-// One draw per card: j = Round(k * Rnd) in single precision, so the two end
-// values of j carry half the weight of the others.
-void Shuffle(Game& g) {
-    for (int i = 0; i < kDeckSize; ++i) g.CardPool[i] = static_cast<int16_t>(i + 1);
-    g.rnd.Randomize();
-    g.rnd.Randomize();
-    g.rnd.Randomize();
-    for (int i = 0; i < kDeckSize; ++i) {
-        int k = kDeckSize - 1 - i;
-        float product = static_cast<float>(k) * g.rnd.Rnd();
-        int j = static_cast<int>(RoundHalfEven(product));
-        g.Deck[i] = g.CardPool[j];
-        g.CardPool[j] = g.CardPool[k];
-    }
-}
 
 // Deck[p - 1] and Deck[p + 7] go to the seat p places after the button, empty
 // or not; Deck[16..20] is the board of every seat.
@@ -149,6 +134,29 @@ void PictureTheCards(Game& g) {
 
 }  // namespace
 
+// One draw per card: j = Round(k * Rnd) in single precision, so the two end
+// values of j carry half the weight of the others. The draws are taken in
+// one go so that the generator stays in registers.
+void Game::ShuffleDeck() {
+    static constexpr auto kFreshPool = [] {
+        std::array<int16_t, kDeckSize> pool{};
+        for (int i = 0; i < kDeckSize; ++i) pool[i] = static_cast<int16_t>(i + 1);
+        return pool;
+    }();
+    CardPool = kFreshPool;
+    rnd.Randomize();
+    rnd.Randomize();
+    rnd.Randomize();
+    float draws[kDeckSize];
+    rnd.Rnd(draws);
+    for (int i = 0; i < kDeckSize; ++i) {
+        int k = kDeckSize - 1 - i;
+        int j = static_cast<int>(RoundHalfEven(static_cast<float>(k) * draws[i]));
+        Deck[i] = CardPool[j];
+        CardPool[j] = CardPool[k];
+    }
+}
+
 void Game::StartHand() {
     HideBetweenHandsControls(*this);
     ResetHand(*this);
@@ -169,7 +177,7 @@ void Game::StartHand() {
         for (auto& card : cards) card = 0;
     for (int i = 1; i <= 21; ++i) view.icard[i].visible = false;
 
-    Shuffle(*this);
+    ShuffleDeck();
     LayOutCards(*this);
     PictureTheCards(*this);
     LogHandStart(*this);

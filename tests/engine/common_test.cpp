@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "engine/random.h"
 
@@ -20,6 +21,12 @@ TEST(Common, MoneyAndRoundingHalfToEven) {
     }
     volatile float five = 5.0f, share = 0.7f;
     EXPECT_EQ(RoundHalfEven(five * share), 4.0f);  // 3.5 in single precision, 3.4999... in double
+    // The inline rounding agrees with the library's over quarters, near-halves and sizes past 2^23.
+    for (int i = -4000; i <= 4000; ++i)
+        for (float x : {i / 4.0f, i / 4.0f + 1e-4f, i * 4097.0f + 0.5f, i * 1e9f + 0.5f}) {
+            ASSERT_EQ(RoundHalfEven(x), std::nearbyint(x)) << x;
+            ASSERT_EQ(RoundHalfEven(double{x} * 1e6 + 0.5), std::nearbyint(double{x} * 1e6 + 0.5)) << x;
+        }
 }
 
 // Scripted draws are counted; a seed repeats exactly, also across reseeds,
