@@ -1,24 +1,15 @@
 // A hand of the shown table: StartHand, the shuffle, the deal, and a whole
 // hand through the real timer chain as the hand log tells it.
-#include <gtest/gtest.h>
-
-#include <sstream>
-#include <string>
-#include <vector>
-
-#include "engine/game_state.h"
 #include "files/statistics.h"
 #include "tests/support/builders.h"
-#include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
 
 using namespace test;
 
-// Positions and blinds after StartHand on the all-zero shuffle: button,
-// small and large blind, the seat to act and the one before, players, pot,
-// the high bet, then every label of a bet and every stack that changed.
+// Positions and blinds after StartHand on the all-zero shuffle: button, small and large blind, the seat to
+// act and the one before, players, pot, the high bet, then every label of a bet and every stack that changed.
 std::string Start(Game& g, const std::vector<int32_t>& banks, int button, int32_t blind = 100) {
     test::SeatTable(g, banks, button, blind);
     g.rnd.Script(std::vector<float>(52, 0.0f));
@@ -116,9 +107,8 @@ std::string Lines(const Game& g) {
     return out;
 }
 
-// Three players: the user all in for $1,000 on the button, the small blind
-// re-raises to $2,000, the large blind calls, both check it down. Kings beat
-// queens for the main pot; the queens take the side pot.
+// Three players: the user all in for $1,000 on the button, the small blind re-raises to $2,000, the large
+// blind calls, both check it down. Kings beat queens for the main pot; the queens take the side pot.
 TEST(HandLog, TellsASidePotHandFromBlindsToPayments) {
     ScriptedPlatform p;
     Game g(p);

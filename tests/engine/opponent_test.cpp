@@ -1,12 +1,6 @@
 // The opponents' rule: the class of the hole cards, the chances of RateHand,
 // and the move drawn against them on the shown table and in the background.
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 #include "tests/support/builders.h"
-#include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
@@ -29,22 +23,18 @@ TEST(Opponent, HoleCardClasses) {
     }
 }
 
-TEST(Opponent, RateHandBeforeTheFlopByClass) {
+// Before the flop by the class alone; after it by the code's row, and for groups the hole cards of its ranks.
+TEST(Opponent, RateHandByClassThenByCodeAndHoleCards) {
     ScriptedPlatform p;
     Game g(p);
-    g.CardsKnown = 2;
-    g.SeatHandCode[6] = 1;  // the made hand plays no part before the flop
-    const int want[9][2] = {{10, 0}, {90, 25}, {75, 20}, {65, 10}, {55, 5},
-                            {50, 5}, {40, 5},  {30, 0},  {10, 0}};
+    g.CardsKnown = 2, g.SeatHandCode[3] = 1;  // the made hand plays no part before the flop
+    const int before[9][2] = {{10, 0}, {90, 25}, {75, 20}, {65, 10}, {55, 5},
+                              {50, 5}, {40, 5},  {30, 0},  {10, 0}};
     for (int cls = 1; cls <= 8; ++cls) {
-        g.StartingHandClass[6] = static_cast<int16_t>(cls);
-        g.RateHand(6);
-        EXPECT_EQ(g.CallChance * 1000 + g.RaiseChance, want[cls][0] * 1000 + want[cls][1]) << cls;
+        g.StartingHandClass[3] = static_cast<int16_t>(cls);
+        g.RateHand(3);
+        EXPECT_EQ(g.CallChance * 1000 + g.RaiseChance, before[cls][0] * 1000 + before[cls][1]) << cls;
     }
-}
-
-// After the flop: the code's row, and for groups the hole cards of its ranks.
-TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
     const std::tuple<int, const char*, int, int> rows[] = {
         {1, "2s3d", 100, 75},  {27, "2s3d", 100, 75}, {28, "2s3d", 95, 60},  {31, "2s3d", 95, 60},
         {32, "2s3d", 90, 50},  {36, "2s3d", 90, 50},  {37, "2s3d", 80, 40},  {37, "AsKs", 80, 40},
@@ -59,8 +49,6 @@ TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
         {151, "3hAd", 40, 10}, {152, "2s3d", 70, 20}, {153, "2s3d", 65, 15}, {154, "2s3d", 50, 10},
         {162, "2s3d", 50, 10}, {163, "2s3d", 10, 0},  {199, "AsAd", 10, 0},  {200, "2s3d", 10, 0},
     };
-    ScriptedPlatform p;
-    Game g(p);
     g.CardsKnown = 6;
     auto rate = [&g](int code, const std::string& hole) {
         test::SetHole(g, 3, hole);
@@ -88,9 +76,8 @@ TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
         }
 }
 
-// Seat 5 moves; seat 3 holds the high bet when there is one. Draws are the
-// percentages 100 * r; x draws Round(9r + 1) before the flop and
-// Round(19r + 1) after it, each chosen so that a scale one off, a floor or
+// Seat 5 moves; seat 3 holds the high bet when there is one. Draws are the percentages 100 * r; x draws
+// Round(9r + 1) before the flop and Round(19r + 1) after it, each chosen so that a scale one off, a floor or
 // the other rounding gives another amount.
 // clang-format off
 struct Move { int street; bool background; int16_t call, raise; int32_t bank, stake, high; bool raised; std::vector<float> draws;

@@ -1,19 +1,9 @@
-// The tournament around the shown table: a background hand's one-pot
-// settlement, the balancing of the tables, the tournament figures, playing
-// out the field and hurrying a hand.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <sstream>
-#include <string>
-#include <vector>
-
+// The tournament around the shown table: a background hand's one-pot settlement, the balancing of the tables,
+// the tournament figures, playing out the field and hurrying a hand.
 #include "engine/autoplay.h"
 #include "engine/end_of_hand.h"
 #include "engine/play_out.h"
 #include "tests/support/builders.h"
-#include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
@@ -80,9 +70,8 @@ TEST(Background, OnePotToTheLowestCode) {
     }
 }
 
-// A field of 80 laid out by a seat map, tables apart by spaces: 'x' a player
-// with chips, '.' a busted record. Record number = position before, so where
-// records went can be read back; the tags mark positions.
+// A field of 80 laid out by a seat map, tables apart by spaces: 'x' a player with chips, '.' a busted record.
+// Record number = position before, so where records went can be read back; the tags mark positions.
 void SeatField(Game& g, const std::string& map, int size) {
     g.TournamentSize = static_cast<int16_t>(size);
     std::string seats;
@@ -249,14 +238,13 @@ TEST(PlayOut, FieldEndsWithOneWinnerAndEveryPlaceOnce) {
     }
 }
 
-TEST(TourneyFigures, FromTheRosterAfterARound) {
+// The figures after a round, and the next rise of the blinds by size and blind.
+TEST(TourneyFigures, FromTheRosterAndTheNextRise) {
     test::ScriptedPlatform p;
     Game g(p);
     g.TournamentSize = 80;
-    for (int pos = 1; pos <= 80; ++pos) {
-        g.RosterNumber[pos] = static_cast<int16_t>(pos);
-        g.RosterBank[pos] = pos <= 40 ? 1000 * pos : 0;
-    }
+    for (int pos = 1; pos <= 80; ++pos)
+        g.RosterNumber[pos] = static_cast<int16_t>(pos), g.RosterBank[pos] = pos <= 40 ? 1000 * pos : 0;
     g.RosterBank[1] = 25500;
     g.BalanceTables();
     g.SmallBlind = 400;
@@ -265,12 +253,8 @@ TEST(TourneyFigures, FromTheRosterAfterARound) {
     EXPECT_EQ(std::vector<int64_t>({f.fieldSize, f.playersLeft, f.tablesInPlay, f.smallBlind, f.nextRiseAt,
                                     f.nextSmallBlind, f.userPlace, f.averageStack}),
               std::vector<int64_t>({80, 40, 5, 400, 40, 600, 16, 21113}));
-
     g.RosterBank[1] = 0;
     EXPECT_EQ(ComputeTourneyFigures(g).userPlace, 0);
-}
-
-TEST(TourneyFigures, NextRiseOfTheBlinds) {
     const std::array<int, 4> cases[] = {{1000, 100, 900, 200}, {1000, 25000, 3, 35000}, {1000, 35000, 0, 0},
                                         {200, 1500, 30, 2000}, {80, 4000, 3, 8000},     {8, 600, 2, 1000},
                                         {80, 150, 0, 0}};
@@ -281,27 +265,9 @@ TEST(TourneyFigures, NextRiseOfTheBlinds) {
     }
 }
 
-// What a hand leaves behind, as text, to compare two runs field by field.
-std::vector<std::string> Snapshot(const Game& g, const test::ScriptedPlatform& p) {
-    std::vector<std::string> out = {
-        "draws " + std::to_string(g.rnd.Draws()),         "left " + std::to_string(g.PlayersLeft),
-        "tables " + std::to_string(g.TablesInPlay),       "blind " + std::to_string(g.SmallBlind),
-        "deal " + std::to_string(g.view.cmdDeal.visible), "pauses " + std::to_string(p.pauses)};
-    for (int pos = 1; pos <= g.TournamentSize; ++pos)
-        out.push_back(std::to_string(pos) + ": " + g.RosterName[pos] + " " +
-                      std::to_string(g.RosterBank[pos]) + " " + std::to_string(g.RosterPlace[pos]));
-    for (int s = 1; s <= kSeats; ++s)
-        out.push_back(g.view.lblBet[s].text + "|" + g.view.lblPaid[s].text + "|" + g.view.lblBank[s].text +
-                      "|" + std::to_string(g.view.icard[s].visible) +
-                      std::to_string(g.view.iArrow[s].visible));
-    for (const std::string& sound : p.sounds) out.push_back(sound);
-    for (const LogLine& line : g.view.log) out.push_back(FormatLogLine(line));
-    return out;
-}
-
 // The user folds at the first turn; the rest of the hand runs tick by tick
 // as the window's timers would fire it, or all at once by FinishHand.
-std::vector<std::string> FoldAndFinish(int players, uint64_t seed, bool hurry) {
+std::string FoldAndFinish(int players, uint64_t seed, bool hurry) {
     test::ScriptedPlatform p;
     Game g(p);
     g.AppFolder = HOLDEM_ASSETS;
@@ -312,7 +278,10 @@ std::vector<std::string> FoldAndFinish(int players, uint64_t seed, bool hurry) {
     EXPECT_EQ(CanFinishHand(g), g.RunningTimer() != kTimerCount);
     hurry ? void(FinishHand(g)) : test::RunTimers(g);
     EXPECT_FALSE(CanFinishHand(g));
-    return Snapshot(g, p);
+    std::string out = test::StateText(g) + " draws " + std::to_string(g.rnd.Draws()) + " pauses " +
+                      std::to_string(p.pauses);
+    for (const std::string& sound : p.sounds) out += " " + sound;
+    return out;
 }
 
 TEST(FinishHand, SameOutcomeAndDrawsAsTheTimers) {

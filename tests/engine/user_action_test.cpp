@@ -1,13 +1,7 @@
 // The user's turn: the buttons it opens with, the four presses, the three
 // refusals, and the bet dialog's checks.
-#include <gtest/gtest.h>
-
-#include <sstream>
-#include <string>
-
 #include "engine/bet_amount.h"
 #include "tests/support/builders.h"
-#include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
@@ -54,8 +48,7 @@ void StartFullTable(Game& g) {
     g.StopHandTimers();
 }
 
-// The table after StartHand with the blinds taken back: every seat in with
-// $10,000, the user to act.
+// The table after StartHand with the blinds taken back: every seat in with $10,000, the user to act.
 TEST(UserAction, OpeningTheTurnAndEachPress) {
     for (const Turn& t : kTurns) {
         SCOPED_TRACE(::testing::Message() << "row " << &t - kTurns);
@@ -129,27 +122,23 @@ TEST(UserAction, IgnoredPressesAndSilence) {
     EXPECT_TRUE(p.sounds.empty());
 }
 
-TEST(BetAmount, DialogOpensInRaiseOrBetMode) {
-    BetAmountLayout raise = BetAmountOpen(BetAmountRequest{4, 600, 600, 5050});
-    BetAmountLayout bet = BetAmountOpen(BetAmountRequest{0, 0, 0, 1234567});
-    EXPECT_EQ(raise.title + "|" + raise.lblBetAmount + "|" + raise.lblToCallAmount + "|" + raise.lblMaxRaise +
-                  "|" + raise.lblMaxRaiseAmount,
-              "Enter Raise Amount|How much do you want to raise?|$600|Max Raise (All In):|$4,450");
-    EXPECT_EQ(bet.title + "|" + bet.lblBetAmount + "|" + bet.lblMaxRaise + "|" + bet.lblMaxRaiseAmount,
-              "Enter Bet Amount|How much do you want to bet?|Max Bet (All In):|$1,234,567");
-    EXPECT_TRUE(raise.toCallVisible);
-    EXPECT_FALSE(bet.toCallVisible);
-    EXPECT_EQ(BetAmountMaxText(BetAmountRequest{4, 600, 600, 5050}), "4450");
-    EXPECT_EQ(BetAmountMaxText(BetAmountRequest{0, 0, 0, 3000}), "3000");
+// The dialog opens in raise or bet mode, takes digits and line keys only, and OK or Enter check the amount.
+TEST(BetAmount, OpensTakesKeysAndChecksTheAmount) {
+    const BetAmountRequest raise{4, 600, 600, 5050}, bet{0, 0, 0, 3000}, checked{3, 0, 0, 3000},
+        rich{2, 2'000'000'000, 2'000'000'000, 2'147'483'000};
+    const BetAmountLayout up = BetAmountOpen(raise),
+                          first = BetAmountOpen(BetAmountRequest{0, 0, 0, 1234567});
+    EXPECT_EQ(up.title + "|" + up.lblBetAmount + "|" + up.lblToCallAmount + "|" + up.lblMaxRaise + "|" +
+                  up.lblMaxRaiseAmount + "|" + BetAmountMaxText(raise) + "|" + BetAmountMaxText(bet),
+              "Enter Raise Amount|How much do you want to raise?|$600|Max Raise (All In):|$4,450|4450|3000");
+    EXPECT_EQ(
+        first.title + "|" + first.lblBetAmount + "|" + first.lblMaxRaise + "|" + first.lblMaxRaiseAmount,
+        "Enter Bet Amount|How much do you want to bet?|Max Bet (All In):|$1,234,567");
+    EXPECT_TRUE(up.toCallVisible && !first.toCallVisible);
     std::string allowed;
     for (int c = 0; c < 128; ++c)
         if (BetAmountKeyAllowed(static_cast<char>(c))) allowed += static_cast<char>(c);
     EXPECT_EQ(allowed, "\b\r0123456789");
-}
-
-TEST(BetAmount, OkAndEnterCheckTheAmount) {
-    const BetAmountRequest raise{4, 600, 600, 5050}, bet{0, 0, 0, 3000}, checked{3, 0, 0, 3000},
-        rich{2, 2'000'000'000, 2'000'000'000, 2'147'483'000};
     const char* const kHundreds = "You must bet in multiples of $100.|0|1 Texas Hold'em";
     const char* const kStack = "|1|1 Bet Exceeds Your Chip Stack";
     struct Row {

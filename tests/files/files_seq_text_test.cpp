@@ -1,6 +1,5 @@
 // The sequential text format, and the shipped data files written in it.
-#include <gtest/gtest.h>
-
+#include <cstring>
 #include <set>
 
 #include "files/seq_text.h"
@@ -81,9 +80,17 @@ TEST(SeqTextTest, WriterRoundTripsAndReplacesTheFileWholeOrNotAtAll) {
     EXPECT_EQ(QuoteSafe("A \"B\"\r\nC"), "A 'B'  C");
 
     std::filesystem::create_directory(dir.File("folder.dat"));
-    for (const char* target : {"missing/x.dat", "folder.dat", ""})
-        EXPECT_THROW(SeqWriter(*target ? dir.File(target) : "").Int(1).EndLine().Commit(), FileError)
-            << target;
+    for (const std::string& target : {dir.File("missing/x.dat"), dir.File("folder.dat"), std::string()}) {
+        try {
+            SeqWriter(target).Int(1).EndLine().Commit();
+            ADD_FAILURE() << target;
+        } catch (const FileError& e) {
+            EXPECT_EQ(e.what(), target.empty() ? std::string("No file name was given.")
+                                : target.find("folder") != std::string::npos
+                                    ? "Cannot write " + target + ": it is a folder."
+                                    : "Cannot write " + target + ": " + std::strerror(ENOENT) + ".");
+        }
+    }
     const auto entries = std::filesystem::directory_iterator(dir.Folder());
     EXPECT_EQ(std::distance(begin(entries), end(entries)), 3);  // no temporary left behind
 }

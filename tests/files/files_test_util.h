@@ -55,6 +55,15 @@ inline std::vector<std::string> FieldLines(int size, int bank = 10000) {
     for (int p = 1; p <= size; ++p) lines.push_back(PlayerLine(p, PlayerName(p), bank, 0, p));
     return lines;
 }
+// Eight players of `bank` under the header "size,hands,button,blind"; the last player's line as given.
+inline std::string EightPlayers(const std::string& header, int bank = 10000,
+                                const std::string& last = "8,\"P8\",10000,0,8") {
+    auto lines = FieldLines(8, bank);
+    lines[7] = last;
+    return header + "\r\n" + RosterText(8, 0, 0, 0, lines).substr(9);
+}
+// 16,777,200 chips in all; 2^24 is the most a Single holds exactly.
+inline const std::string kMostChips = EightPlayers("8,5,2,100", 2097200, "8,\"P8\",2096800,0,8");
 inline void FillRoster(Game& g, int size) {
     g.TournamentSize = static_cast<int16_t>(size);
     for (int p = 1; p <= size; ++p)

@@ -90,8 +90,7 @@ std::vector<float> ShuffleDrawsFor(const std::vector<int>& front) {
             if (at == pool.begin() + k + 1) throw std::invalid_argument("card twice in the deck");
             j = static_cast<int>(at - pool.begin());
         }
-        // A little below j where possible: truncating instead of rounding
-        // would deal another card.
+        // A little below j where possible: truncating instead of rounding would deal another card.
         float draw = k == 0 ? 0.0f : (static_cast<float>(j) + (j > 0 ? -0.3f : 0.3f)) / static_cast<float>(k);
         if (static_cast<int>(RoundHalfEven(static_cast<float>(k) * draw)) != j)
             throw std::logic_error("no draw for the wanted card");
@@ -128,6 +127,29 @@ std::vector<float> Draws(std::initializer_list<std::vector<float>> parts) {
     std::vector<float> all;
     for (const auto& part : parts) all.insert(all.end(), part.begin(), part.end());
     return all;
+}
+
+std::string StateText(const Game& g) {
+    std::ostringstream out;
+    out << g.TournamentSize << ',' << g.HandsPlayed << ',' << g.ButtonSeat << ',' << g.SmallBlind << ','
+        << g.PlayersLeft << ',' << g.TablesInPlay << g.GameUnsaved << g.GameEnded << g.SavedGamePath << '\n';
+    for (int p = 1; p <= kRoster; ++p)
+        out << g.RosterName[p] << g.RosterBank[p] << ',' << g.RosterPlace[p] << ',' << g.RosterNumber[p]
+            << '\n';
+    for (int s = 1; s <= kSeats; ++s)
+        out << g.SeatName[s] << g.SeatBank[s] << g.SeatBet[s] << g.SeatInHand[s];
+    const View& v = g.view;
+    std::vector<const Element*> all = {&v.mnuSave,  &v.mnuSaveAs,   &v.mnuMediumSpeed, &v.cmdDeal,
+                                       &v.lblBlind, &v.lblGoodLuck, &v.lblPot,         &v.picTableMoney};
+    for (const auto* group : {&v.lblName, &v.lblBank, &v.lblBet, &v.lblPaid, &v.iArrow, &v.iButton})
+        for (const Element& e : *group) all.push_back(&e);
+    for (const Element& e : v.icard) all.push_back(&e);
+    for (const Element& e : v.cmdPlay) all.push_back(&e);
+    for (const Element* e : all)
+        out << e->text << '|' << e->visible << e->enabled << e->checked << e->picture << '\n';
+    for (const TimerState& t : v.timer) out << t.enabled << t.interval;
+    for (const LogLine& line : v.log) out << '\n' << FormatLogLine(line);
+    return out.str();
 }
 
 void ExpectSettled(const Game& g) {

@@ -1,29 +1,33 @@
 // Builders for tests of the engine: cards by name, a seat or a whole table,
 // the draws that make the shuffle deal chosen cards, and the closing checks.
+// With GoogleTest and the scripted platform, all an engine test includes.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <initializer_list>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "engine/game_state.h"
+#include "tests/support/scripted_platform.h"
 
 namespace holdem::test {
 
-// "AhKd 2c7s": every two characters a card, spaces ignored: rank 2..9, T, J,
-// Q, K, A, then h, s, d or c for the four suit blocks in their order; 0 for
-// a card it cannot read.
+// "AhKd 2c7s": every two characters a card, spaces ignored: rank 2..9, T, J, Q, K, A, then h, s, d or c for
+// the four suit blocks in their order; 0 for a card it cannot read.
 std::vector<int16_t> CardsOf(const std::string& names);
 
 // The five board cards into Deck[16..20] and elements 3..7 of every seat.
 void SetBoard(Game& g, const std::string& cards);
 void SetHole(Game& g, int seat, const std::string& cards);
 
-// A seat of the shown table in the hand (or out of it) with what it has left
-// and what it has put in; RosterBank becomes the stack it started with.
-// Keeps PlayersInHand and Pot in step.
+// A seat of the shown table in the hand (or out of it) with what it has left and what it has put in;
+// RosterBank becomes the stack it started with. Keeps PlayersInHand and Pot in step.
 void SeatPlayer(Game& g, int seat, float bankLeft, int32_t totalBet, int32_t bet = 0, bool inHand = true);
 
 // A field of `size` with nobody seated at the shown table, sound on, the
@@ -43,6 +47,9 @@ std::vector<float> ShuffleDrawsFor(const std::vector<int>& front);
 std::vector<int> DeckFor(int button, const std::array<std::string, 9>& holes, const std::string& board);
 std::vector<float> Draws(std::initializer_list<std::vector<float>> parts);
 
+// Everything of a game a routine may change, as text: the game's figures, the roster, the seats,
+// the shown elements, the timers and the log. Two runs or two moments compare whole.
+std::string StateText(const Game& g);
 // Every scripted draw taken and none beyond; the state's invariants hold.
 void ExpectSettled(const Game& g);
 // Fires the running timer until none runs: the rest of the hand as the window would play it.

@@ -54,14 +54,11 @@ public:
     // The record.
     std::vector<MessageCall> messages;
     std::vector<FileDialogRequest> openDialogs, saveDialogs;
-    std::vector<std::string> sounds;
-    int pauses = 0;
+    std::vector<std::string> sounds, standings, floors;
+    int pauses = 0, playerNameCalls = 0;
     std::vector<BetAmountRequest> betRequests;
-    std::vector<int16_t> newGameSpeeds;
-    int playerNameCalls = 0;
-    std::vector<int16_t> gameOvers;
+    std::vector<int16_t> newGameSpeeds, gameOvers;
     std::vector<PotBreakdown> breakdowns;
-    std::vector<std::string> standings, floors;
     std::vector<InfoForm> infos;
 
 private:
@@ -69,8 +66,7 @@ private:
     static T Take(std::deque<T>& queue, T fallback) {
         if (queue.empty()) return fallback;
         T value = queue.front();
-        queue.pop_front();
-        return value;
+        return queue.pop_front(), value;
     }
 };
 

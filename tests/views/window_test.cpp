@@ -33,11 +33,10 @@ void SetUpHeadsUp(frmMain& w) {
         std::tuple(8, 2, 2, 1, 1, 100);
     g.view.mnuSave.enabled = g.view.cmdDeal.visible = g.view.cmdStandings.visible = g.view.cmdFloor.visible =
         true;
-    std::vector<float> draws(52, 0.0f);
-    draws.insert(draws.end(), 4, 0.99f);
+    std::vector<float> draws(56, 0.0f);
+    std::fill(draws.begin() + 52, draws.end(), 0.99f);
     g.rnd.Script(draws);
-    w.Redraw();
-    w.show();
+    w.Redraw(), w.show();
 }
 // The one QTimer running, kTimerCount unless exactly one runs.
 TimerId RunningTimer(const frmMain& w) {
@@ -87,10 +86,7 @@ public:
 std::string Here() { return QCoreApplication::applicationDirPath().toStdString() + "/"; }
 bool FocusOnAButton() { return qobject_cast<QPushButton*>(QApplication::focusWidget()); }
 QString MenuTitles(frmMain& w) { return w.mnuSettings->title() + w.mnuFile->title() + w.mnuHelp->title(); }
-void Activate(QWidget& w) {
-    w.show(), w.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&w));
-}
+void Activate(QWidget& w) { w.show(), w.activateWindow(), QVERIFY(QTest::qWaitForWindowActive(&w)); }
 void Tick(frmMain& w, TimerId id, int times = 1) {
     for (int k = 0; k < times; ++k)
         QVERIFY2(RunningTimer(w) == id && (w.TimerTick(id), true), qPrintable(QString::number(id)));
@@ -123,15 +119,6 @@ void FillTable(frmMain& w, bool showdown) {
     v.lblGoodLuck = {"Final Table!", !showdown};
     w.Redraw();
 }
-// The pixels of a picture that pass the test, counted by column.
-std::vector<int> Columns(const QImage& image, bool (*test)(QColor)) {
-    std::vector<int> columns(image.width());
-    for (int x = 0; x < image.width(); ++x)
-        for (int y = 0; y < image.height(); ++y) columns[x] += test(image.pixelColor(x, y));
-    return columns;
-}
-bool Red(QColor c) { return c.alpha() > 200 && c.red() > 150 && c.green() < 80 && c.blue() < 80; }
-bool White(QColor c) { return c.alpha() > 200 && c.red() > 230 && c.green() > 230 && c.blue() > 230; }
 }  // namespace
 
 class WindowTest : public QObject {
@@ -454,8 +441,14 @@ private slots:
         for (const auto& [name, size] : pictures) {
             const QImage image(QString::fromStdString(Here()) + "pictures/" + name + ".png");
             QVERIFY2(image.size() == size * 2, qPrintable(name));
-            const auto red = Columns(image, Red), white = Columns(image, White);
-            const int reds = std::accumulate(red.begin(), red.end(), 0), card = name.mid(5).toInt();
+            std::vector<int> white(image.width());  // white pixels by column
+            int reds = 0, card = name.mid(5).toInt();
+            for (int x = 0; x < image.width(); ++x)
+                for (int y = 0; y < image.height(); ++y) {
+                    const QColor c = image.pixelColor(x, y);
+                    reds += c.alpha() > 200 && c.red() > 150 && c.green() < 80 && c.blue() < 80;
+                    white[x] += c.alpha() > 200 && c.red() > 230 && c.green() > 230 && c.blue() > 230;
+                }
             const bool rightHeavy =
                 std::max_element(white.begin(), white.end()) - white.begin() > image.width() / 2;
             if (name.startsWith("card_") && card > 0)
