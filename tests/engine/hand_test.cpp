@@ -8,38 +8,62 @@ namespace {
 
 using namespace test;
 
-// Positions and blinds after StartHand on the all-zero shuffle: button, small and large blind, the seat to
-// act and the one before, players, pot, the high bet, then every label of a bet and every stack that changed.
-std::string Start(Game& g, const std::vector<int32_t>& banks, int button, int32_t blind = 100) {
+// StartHand on the all-zero shuffle over what an earlier hand left behind. Tells the positions and blinds:
+// button, small and large blind, the seat to act and the one before, players, pot, the high bet, then every
+// label of a bet and every stack that changed. All else the earlier hand left is cleared, the buttons and
+// menus of the pause between hands go, and the roster waits for the hand's end.
+std::string Start(Game& g, const std::vector<int32_t>& banks, int button, int32_t blind) {
+    for (int s = 1; s <= kSeats; ++s) {
+        g.SeatRaised[s] = g.view.lblPaid[s].visible = g.view.iArrow[s].visible = true;
+        g.SeatTotalBet[s] = 700, g.WinnerSeats[s] = 1, g.SeatHandCode[s] = 61, g.SeatHandName[s] = "Two Pair";
+    }
+    for (int i = 1; i <= 21; ++i) g.view.icard[i].visible = true;
+    g.view.cmdDeal.visible = g.view.cmdStandings.visible = g.view.cmdFloor.visible = g.HandIsOver = true;
+    g.view.mnuSave.enabled = g.view.mnuSaveAs.enabled = true;
+    g.HandsPlayed = 4, g.Street = 3, g.CardsDealt = 21, g.CardsKnown = 7;
     test::SeatTable(g, banks, button, blind);
     g.rnd.Script(std::vector<float>(52, 0.0f));
     g.StartHand();
     test::ExpectSettled(g);
+    const View& v = g.view;
     std::ostringstream out;
     out << "B" << g.ButtonSeat << " S" << g.SmallBlindSeat << " L" << g.BigBlindSeat << " C" << g.CurrentSeat
-        << " P" << g.PreviousSeat << " n" << g.PlayersInHand << " pot " << g.view.lblPot.text << " H"
+        << " P" << g.PreviousSeat << " n" << g.PlayersInHand << " pot " << v.lblPot.text << " H"
         << g.HighBetIndex << "/" << g.HighBetValue << " |";
     for (int s = 1; s <= kSeats; ++s) {
-        if (!g.view.lblBet[s].text.empty()) out << " " << s << ":" << g.view.lblBet[s].text;
-        if (g.SeatBank[s] != g.RosterBank[s]) out << " " << s << "=" << g.view.lblBank[s].text;
-        const View& v = g.view;
+        SCOPED_TRACE(s);
+        if (!v.lblBet[s].text.empty()) out << " " << s << ":" << v.lblBet[s].text;
+        if (g.SeatBank[s] != g.RosterBank[s]) out << " " << s << "=" << v.lblBank[s].text;
         EXPECT_EQ(g.SeatInHand[s], g.RosterBank[s] > 0);
         EXPECT_EQ(v.lblName[s].visible && v.lblBank[s].visible && v.lblBankDollarSign[s].visible,
                   g.SeatInHand[s]);
-        EXPECT_EQ(g.view.iButton[s].visible, s == g.ButtonSeat);
+        EXPECT_EQ(v.iButton[s].visible, s == g.ButtonSeat);
         // Deck[p] and Deck[p + 8] to the seat p + 1 after the button, empty or not; the board to all.
         int p0 = (s - g.ButtonSeat + 7) % kSeats;
-        EXPECT_EQ(g.SeatCards[s][1] * 100 + g.SeatCards[s][2], g.Deck[p0] * 100 + g.Deck[p0 + 8]) << s;
-        for (int k = 3; k <= 7; ++k) EXPECT_EQ(g.SeatCards[s][k], g.Deck[13 + k]) << s;
+        EXPECT_EQ(g.SeatCards[s][1] * 100 + g.SeatCards[s][2], g.Deck[p0] * 100 + g.Deck[p0 + 8]);
+        for (int k = 3; k <= 7; ++k) EXPECT_EQ(g.SeatCards[s][k], g.Deck[13 + k]);
+        EXPECT_FALSE(g.SeatRaised[s] || v.lblPaid[s].visible || v.iArrow[s].visible);
+        EXPECT_EQ(std::vector<int>({g.SeatTotalBet[s], g.WinnerSeats[s], g.StartingHandClass[s],
+                                    g.SeatHandCode[s], g.RosterBank[s]}),
+                  std::vector<int>({0, 0, 9, 200, banks[s - 1]}));
+        EXPECT_EQ(g.SeatHandName[s] + "|" + v.lblName[s].text, "|" + g.RosterName[s]);
     }
-    for (int i = 1; i <= 21; ++i) {  // faces for the user's cards and the board only
+    for (int i = 1; i <= 21; ++i) {  // faces for the user's cards and the board only, none shown yet
         int face = i == 1 || i == 9 ? g.SeatCards[1][i / 8 + 1] : i > 16 ? g.Deck[i - 1] : 0;
-        EXPECT_EQ(g.view.icard[i].picture, face) << i;
+        EXPECT_EQ(v.icard[i].picture * 10 + v.icard[i].visible, face * 10) << i;
     }
+    EXPECT_FALSE(v.cmdDeal.visible || v.cmdStandings.visible || v.cmdFloor.visible || g.HandIsOver ||
+                 v.mnuSave.enabled || v.mnuSaveAs.enabled || v.lblHBI.visible);
+    EXPECT_TRUE(v.lblBlind.visible && v.lblGoodLuck.visible && v.lblPot.visible && v.lblPotLabel.visible);
+    EXPECT_EQ(std::vector<int>({g.HandsPlayed, g.Street, g.CardsDealt, g.RunningTimer()}),
+              std::vector<int>({5, 1, 0, TimerDealHole}));
+    EXPECT_EQ(v.lblHBI.text + " " + v.lblHBV.text + " " + v.lblPrevious.text,
+              std::to_string(g.HighBetIndex) + " " + std::to_string(g.HighBetValue) + " " +
+                  std::to_string(g.PreviousSeat));
     return out.str();
 }
 
-TEST(StartHand, ButtonBlindsAndFirstToAct) {
+TEST(StartHand, ButtonBlindsFirstToActAndAClearedTable) {
     // clang-format off
     const std::tuple<std::vector<int32_t>, int, int32_t, const char*> rows[] = {
         {{10000, 10000, 10000, 10000, 10000, 10000, 10000, 10000}, 8, 100, "B1 S2 L3 C4 P3 n8 pot 300 H3/200 | 2:Small Blind: $100 2=9,900 3:Large Blind: $200 3=9,800"},
@@ -59,52 +83,12 @@ TEST(StartHand, ButtonBlindsAndFirstToAct) {
         ScriptedPlatform p;
         Game g(p);
         EXPECT_EQ(Start(g, banks, button, blind), outcome);
+        g.StopHandTimers();
+        g.rnd.Script(std::vector<float>(52, 0.0f));
+        g.cmdDeal_Click();  // Deal starts the next hand
+        EXPECT_EQ(g.HandsPlayed, 6);
+        test::ExpectSettled(g);
     }
-}
-
-// Everything an earlier hand left behind is cleared, the buttons and menus
-// of the pause between hands go, and the roster waits for the hand's end.
-TEST(StartHand, ResetsTheSeatsAndTheView) {
-    ScriptedPlatform p;
-    Game g(p);
-    for (int s = 1; s <= kSeats; ++s) {
-        g.SeatRaised[s] = g.view.lblPaid[s].visible = g.view.iArrow[s].visible = true;
-        g.SeatTotalBet[s] = 700, g.WinnerSeats[s] = 1, g.SeatHandCode[s] = 61, g.SeatHandName[s] = "Two Pair";
-    }
-    for (int i = 1; i <= 21; ++i) g.view.icard[i].visible = true;
-    g.view.cmdDeal.visible = g.view.cmdStandings.visible = g.view.cmdFloor.visible = g.HandIsOver = true;
-    g.view.mnuSave.enabled = g.view.mnuSaveAs.enabled = true;
-    g.HandsPlayed = 4, g.Street = 3, g.CardsDealt = 21, g.CardsKnown = 7;
-    Start(g, {10000, 10000, 10000, 10000, 10000, 10000, 10000, 10000}, 8);
-    for (int s = 1; s <= kSeats; ++s) {
-        SCOPED_TRACE(s);
-        EXPECT_FALSE(g.SeatRaised[s] || g.view.lblPaid[s].visible || g.view.iArrow[s].visible);
-        EXPECT_EQ(std::vector<int>({g.SeatTotalBet[s], g.WinnerSeats[s], g.StartingHandClass[s],
-                                    g.SeatHandCode[s], g.RosterBank[s]}),
-                  std::vector<int>({0, 0, 9, 200, 10000}));
-        EXPECT_EQ(g.SeatHandName[s], "");
-        EXPECT_EQ(g.view.lblName[s].text, s == 1 ? "You" : "Player " + std::to_string(s));
-    }
-    for (int i = 1; i <= 21; ++i) EXPECT_FALSE(g.view.icard[i].visible) << i;
-    EXPECT_FALSE(g.view.cmdDeal.visible || g.view.cmdStandings.visible || g.view.cmdFloor.visible ||
-                 g.HandIsOver || g.view.mnuSave.enabled || g.view.mnuSaveAs.enabled || g.view.lblHBI.visible);
-    EXPECT_TRUE(g.view.lblBlind.visible && g.view.lblGoodLuck.visible && g.view.lblPot.visible &&
-                g.view.lblPotLabel.visible);
-    EXPECT_EQ(std::vector<int>({g.HandsPlayed, g.Street, g.CardsDealt, g.RunningTimer()}),
-              std::vector<int>({5, 1, 0, TimerDealHole}));
-    EXPECT_EQ(g.view.lblHBI.text + " " + g.view.lblHBV.text + " " + g.view.lblPrevious.text, "3 200 3");
-    g.StopHandTimers();
-    g.rnd.Script(std::vector<float>(52, 0.0f));
-    g.cmdDeal_Click();
-    EXPECT_EQ(g.HandsPlayed, 6);
-    test::ExpectSettled(g);
-}
-
-// The log in one string, " / " between lines.
-std::string Lines(const Game& g) {
-    std::string out;
-    for (const LogLine& line : g.view.log) out += (out.empty() ? "" : " / ") + FormatLogLine(line);
-    return out;
 }
 
 // Three players: the user all in for $1,000 on the button, the small blind re-raises to $2,000, the large
@@ -126,7 +110,9 @@ TEST(HandLog, TellsASidePotHandFromBlindsToPayments) {
     ExpectSettled(g);
 
     // clang-format off
-    EXPECT_EQ(Lines(g),
+    std::string lines;  // " / " between lines
+    for (const LogLine& line : g.view.log) lines += (lines.empty() ? "" : " / ") + FormatLogLine(line);
+    EXPECT_EQ(lines,
         "Hand 1: You has the button, blinds $100 - $200 / You (you) holds K\u2665 K\u2660 / "
         "Player 3 posts the small blind $100 / Player 5 posts the large blind $200 / "
         "You raises $800 to $1,000, all in / Player 3 raises $1,000 to $2,000 / Player 5 calls $1,800 / "

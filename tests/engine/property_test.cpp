@@ -1,14 +1,48 @@
 // Seeded games through the real timer chain. The driver checks after every step and every hand: chips
 // conserved at the table and in the field, one timer at a time, the roster a permutation, every busted player
-// placed once within 1..N, the tables in play balanced, no closing check fired.
+// placed once within 1..N, the tables in play balanced, no closing check fired. A field the user left plays
+// out to its winner.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <set>
 
 #include "engine/autoplay.h"
+#include "engine/play_out.h"
 
 namespace holdem::sim {
 namespace {
+
+// Stopped after a round (unless that round ended it) and played on: the field ends with places 1..N, each
+// once. Tells whether it was stopped.
+bool CheckPlayOut(Game& g, int players) {
+    g.view.logging = true;
+    const int userPlace = g.UserFinishPlace;
+    int rounds = 0;
+    PlayOutReport report = PlayOutField(g, [&](int) { return ++rounds < 2; });
+    const bool stopped = !report.finished;
+    EXPECT_EQ(CanPlayOutField(g), stopped) << "a stopped field plays on later";
+    if (stopped) report = PlayOutField(g);
+    EXPECT_TRUE(report.finished);
+    EXPECT_FALSE(CanPlayOutField(g));
+
+    std::vector<Standing> standings = FinalStandings(g);
+    EXPECT_EQ(standings.size(), static_cast<std::size_t>(players));
+    if (standings.size() != static_cast<std::size_t>(players)) return stopped;
+    std::vector<int> numbers;
+    for (std::size_t i = 0; i < standings.size(); ++i) {
+        EXPECT_EQ(standings[i].place, static_cast<int>(i) + 1);
+        numbers.push_back(standings[i].number);
+        EXPECT_TRUE(standings[i].number != 1 || standings[i].place == userPlace);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    for (int i = 0; i < players; ++i) EXPECT_EQ(numbers[i], i + 1);
+    EXPECT_EQ(g.RosterBank[report.winnerPosition], players * 10000);
+    EXPECT_EQ(g.view.log.empty() ? "" : FormatLogLine(g.view.log.back()),
+              standings.front().name + (players > 8 ? " wins the tournament" : " wins the game"));
+    return stopped;
+}
 
 // Every policy of the user, every field size, each game with the log and without. The signature mixes every
 // stack of the shown table and the players left after every hand, so it moves with any change of a draw, a
@@ -20,14 +54,17 @@ TEST(Property, SeededGamesPlayCleanAndRepeatExactly) {
         {1000, Policy::Rule, 7, 7}};
     Signature sig, printed;  // printed: every line the simulator printed, byte by byte
     long hands = 0;
+    std::set<int> stoppedAndPlayedOut;  // field sizes
     for (auto [players, policy, first, last] : runs)
         for (uint64_t seed = first; seed <= last; ++seed) {
             SCOPED_TRACE(::testing::Message() << players << " players, seed " << seed);
             // Played again without the log: it watches, so draws and payments stay the same.
             std::FILE* sink = std::tmpfile();
             uint64_t draws[2] = {};
-            GameResult r = PlayOneGame(HOLDEM_ASSETS, players, seed, policy, sink,
-                                       [&](Game& g) { draws[0] = g.rnd.Draws(); });
+            GameResult r = PlayOneGame(HOLDEM_ASSETS, players, seed, policy, sink, [&](Game& g) {
+                draws[0] = g.rnd.Draws();
+                if (CanPlayOutField(g) && CheckPlayOut(g, players)) stoppedAndPlayedOut.insert(players);
+            });
             const long logged = std::ftell(sink);
             std::rewind(sink);
             for (int c; (c = std::fgetc(sink)) != EOF;) printed.Mix(static_cast<uint64_t>(c));
@@ -46,8 +83,9 @@ TEST(Property, SeededGamesPlayCleanAndRepeatExactly) {
             hands += r.hands;
         }
     EXPECT_EQ(hands, 7941);
+    EXPECT_EQ(stoppedAndPlayedOut, (std::set<int>{8, 80, 200, 1000}));
     EXPECT_EQ(sig.value, 0x16f39027739eb4b7ull);
-    EXPECT_EQ(printed.value, 0xb9e09ca144314842ull);
+    EXPECT_EQ(printed.value, 0x50d2b96464904f26ull);
 }
 
 }  // namespace

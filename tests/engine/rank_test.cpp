@@ -194,14 +194,16 @@ TEST_F(Rank, SevenCardShowdownsAgreeWithTheReference) {
     for (int cat = HighCard; cat < kCategories; ++cat) EXPECT_GT(seen[cat], 20) << cat;
 }
 
+// Stack left full of the Ace of hearts (card 13): the reference reads a seat's cards from element 1, and
+// were it to read element 0 too, that Ace would turn a heart flush to K into a royal one.
+[[gnu::noinline]] void FillStackWithAces() {
+    volatile int junk[8192];
+    for (volatile int& card : junk) card = 13;
+}
+
 TEST_F(Rank, NamedHandsCodesAndArrangedRanks) {
-    struct Row {
-        const char* cards;
-        int code;
-        const char* name;
-        const char* best;  // elements 1..7 on the river
-    } rows[] = {
-        // clang-format off
+    // clang-format off
+    struct Row { const char* cards; int code; const char* name; const char* best; /* elements 1..7 on the river */ } rows[] = {
         {"AhKh QhJhTh 2c3d", 1, "Royal Flush", "13 12 11 10 9 1 2"},
         {"2h3h 4h5h6h 9hKh", 9, "Straight Flush", "12 8 5 4 3 2 1"},  // the 6-high, not the flush
         {"AhKh 5h4h3h 2h9c", 10, "Straight Flush", "13 12 4 3 2 1 8"}, {"Ah6h 5h4h3h 2h9c", 9, "Straight Flush", "13 5 4 3 2 1 8"},
@@ -219,8 +221,8 @@ TEST_F(Rank, NamedHandsCodesAndArrangedRanks) {
         {"KhKs 9d9c5h 5c2d", 76, "Two Pair", "12 12 8 8 4 4 1"}, {"3h3s 2d2c5h 7c9d", 138, "Two Pair", "2 2 1 1 8 6 4"},
         {"8h8s 2dAc3h Js5d", 145, "Eights", "7 7 13 10 4 2 1"}, {"Ah Js 8d5c2h 3cTd", 199, "", "13 10 9 7 4 2 1"},
         {"2h7h KhJh4s 9c3d", 199, "", "12 10 8 6 3 2 1"},
-        // clang-format on
     };
+    // clang-format on
     for (const Row& r : rows) {
         SCOPED_TRACE(r.cards);
         g.SeatHandName[1] = "";
@@ -236,6 +238,13 @@ TEST_F(Rank, NamedHandsCodesAndArrangedRanks) {
         EXPECT_EQ(Code(pair + "h" + pair + "s" + (high ? "2d5c6d8cTd" : "KdQc9d7c4d")), 152 - r) << r;
         EXPECT_EQ(g.SeatHandName[1], words[r - 1]);
     }
+    const std::vector<int16_t> flush = CardsOf("KhQh JhTh2h 3c4d");
+    int16_t cards[kHandCardsMax + 1] = {0,        flush[0], flush[1], flush[2],
+                                        flush[3], flush[4], flush[5], flush[6]};
+    HandRanking ranked;
+    FillStackWithAces();
+    RankCardsReference(cards, 7, true, ranked);
+    EXPECT_EQ(ranked.code, 37);
 }
 
 // Before the river a hand with no pair keeps the name it had and its codes

@@ -1,5 +1,5 @@
 // The tournament around the shown table: a background hand's one-pot settlement, the balancing of the tables,
-// the tournament figures, playing out the field and hurrying a hand.
+// the tournament figures and hurrying a hand.
 #include "engine/autoplay.h"
 #include "engine/end_of_hand.h"
 #include "engine/play_out.h"
@@ -111,12 +111,8 @@ void ExpectPermutation(const Game& g, int size) {
 }
 
 TEST(Balance, Outcomes) {
-    struct Row {
-        const char* before;
-        const char* outcome;
-        std::vector<std::pair<int, int>> at = {};  // position, record number found there
-    } rows[] = {
-        // clang-format off
+    // clang-format off
+    struct Row { const char* before; const char* outcome; std::vector<std::pair<int, int>> at = {}; /* position, record found there */ } rows[] = {
         {"xxxxxxxx xxxxxxxx xxxxxxxx", "8 8 8 Good Luck!"}, {"xxxxxxxx xxxxxx..", "8 6 Good Luck!"},
         {"xxxxxx.. xxxxx... xxxxx...", "6 5 5 Good Luck!"},  // 16 would fit on two tables
         {"xxxxx... xxxxx...", "5 5 Good Luck!"}, {"xxxxxx.. xxxxx...", "6 5 Good Luck!"},
@@ -141,8 +137,8 @@ TEST(Balance, Outcomes) {
         // Nine on two tables shuttle for all 100 passes; 3,3,3 ends there too.
         {"xxxxx... xxxx....", "5 4 Good Luck!"}, {"xxxx.... xxxxx...", "4 5 Good Luck!"},
         {"xxxxxx.. xxx.....", "4 5 Good Luck!"}, {"xxx..... xxx..... xxx.....", "5 4 0 TWOMOVED Good Luck!"},
-        // clang-format on
     };
+    // clang-format on
     for (const Row& r : rows) {
         SCOPED_TRACE(r.before);
         for (bool sound : {true, false}) {
@@ -193,49 +189,6 @@ TEST(Balance, SingleTablesWideAndThinFields) {
     EXPECT_EQ(TableCounts(g, 125), counts);
     EXPECT_EQ(g.TablesInPlay * 10000 + g.PlayersLeft, 125 * 10000 + 993);
     ExpectPermutation(g, 1000);
-}
-
-// Stopped once and played on: the field ends with places 1..N, each once.
-void CheckPlayOut(Game& g, int players) {
-    g.view.logging = true;
-    const int userPlace = g.UserFinishPlace;
-    int rounds = 0;
-    PlayOutReport stopped = PlayOutField(g, [&](int) { return ++rounds < 2; });
-    EXPECT_FALSE(stopped.finished);
-    EXPECT_TRUE(CanPlayOutField(g)) << "a stopped field plays on later";
-    PlayOutReport report = PlayOutField(g);
-    ASSERT_TRUE(report.finished);
-    EXPECT_FALSE(CanPlayOutField(g));
-
-    std::vector<Standing> standings = FinalStandings(g);
-    ASSERT_EQ(standings.size(), static_cast<std::size_t>(players));
-    std::vector<int> numbers;
-    for (std::size_t i = 0; i < standings.size(); ++i) {
-        EXPECT_EQ(standings[i].place, static_cast<int>(i) + 1);
-        numbers.push_back(standings[i].number);
-        EXPECT_TRUE(standings[i].number != 1 || standings[i].place == userPlace);
-    }
-    std::sort(numbers.begin(), numbers.end());
-    for (int i = 0; i < players; ++i) EXPECT_EQ(numbers[i], i + 1);
-    EXPECT_EQ(g.RosterBank[report.winnerPosition], players * 10000);
-    ASSERT_FALSE(g.view.log.empty());
-    EXPECT_EQ(FormatLogLine(g.view.log.back()),
-              standings.front().name + (players > 8 ? " wins the tournament" : " wins the game"));
-}
-
-TEST(PlayOut, FieldEndsWithOneWinnerAndEveryPlaceOnce) {
-    for (int players : {8, 80, 200, 1000}) {
-        SCOPED_TRACE(players);
-        bool playedOut = false;
-        for (uint64_t seed = 1; seed <= 10 && !playedOut; ++seed) {
-            sim::PlayOneGame(HOLDEM_ASSETS, players, seed, sim::Policy::Folder, nullptr, [&](Game& g) {
-                if (!CanPlayOutField(g)) return;
-                CheckPlayOut(g, players);
-                playedOut = true;
-            });
-        }
-        EXPECT_TRUE(playedOut);
-    }
 }
 
 // The figures after a round, and the next rise of the blinds by size and blind.

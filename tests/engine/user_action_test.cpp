@@ -141,13 +141,8 @@ TEST(BetAmount, OpensTakesKeysAndChecksTheAmount) {
     EXPECT_EQ(allowed, "\b\r0123456789");
     const char* const kHundreds = "You must bet in multiples of $100.|0|1 Texas Hold'em";
     const char* const kStack = "|1|1 Bet Exceeds Your Chip Stack";
-    struct Row {
-        const BetAmountRequest& request;
-        const char* text;
-        bool enter;
-        std::string outcome;  // closes with BetAmount, or message|clears the text|icon
-    } rows[] = {
-        // clang-format off
+    // clang-format off
+    struct Row { const BetAmountRequest& request; const char* text; bool enter; std::string outcome; /* closes with BetAmount, or message|clears the text|icon */ } rows[] = {
         {raise, "", false, "No bet entered|1|0 Texas Hold'em"}, {raise, "0", false, "No bet entered|1|0 Texas Hold'em"},
         {raise, "000", false, "No bet entered|1|0 Texas Hold'em"}, {raise, "", true, "No bet entered|0|0 Texas Hold'em"},
         {raise, "0", true, "close 0"}, {raise, "150", false, kHundreds}, {raise, "50", false, kHundreds},
@@ -163,8 +158,8 @@ TEST(BetAmount, OpensTakesKeysAndChecksTheAmount) {
         {bet, "2147483700", false, std::string("You've only got $3,000.") + kStack},
         {bet, "99999999999999999999999999999900", false, std::string("You've only got $3,000.") + kStack},
         {rich, "2147483600", false, std::string("You've only got $2,147,483,000.") + kStack},
-        // clang-format on
     };
+    // clang-format on
     for (const Row& r : rows) {
         BetAmountOutcome out = r.enter ? BetAmountEnter(r.request, r.text) : BetAmountOk(r.request, r.text);
         std::string got = out.close ? "close " + std::to_string(out.betAmount) : "";

@@ -206,14 +206,8 @@ protected:
 TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
     using A = MsgAnswer;
     const char *const kStart = "Start New Game?", *const kSave = "Save Existing Game?";
-    const struct {
-        int hands;
-        bool unsaved, ended, named;
-        std::vector<MsgAnswer> answers;
-        bool cancelDialog;
-        std::vector<std::string> messages;
-        bool started, saved;
-    } cases[] = {
+    // clang-format off
+    const struct { int hands; bool unsaved, ended, named; std::vector<MsgAnswer> answers; bool cancelDialog; std::vector<std::string> messages; bool started, saved; } cases[] = {
         {1, true, false, true, {A::No}, false, {kStart}, false, false},
         {7, true, false, true, {A::Cancel}, false, {kStart}, false, false},
         {7, true, false, true, {A::Yes, A::No}, true, {kStart, kSave}, false, false},
@@ -222,6 +216,7 @@ TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
         {7, true, false, false, {A::Yes, A::Yes}, false, {kStart, kSave, kNotSaved}, true, false},
         {7, true, true, true, {}, false, {}, true, false},
     };
+    // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message()
                      << c.unsaved << c.ended << c.named << " answers " << c.answers.size());

@@ -46,34 +46,26 @@ TEST_F(SafetyTest, RefusedOpenOrNewGameLeavesTheGameInPlayAsItWas) {
     auto odd = lines;
     odd[3] = PlayerLine(4, "Odd", 10050, 0, 4);
     // Each file just beyond a range, with the reason given under the message; "-" opens a missing file.
+    // clang-format off
     const std::pair<std::string, std::string> cases[] = {
-        {RosterText(80, 3, 1, 100, {lines.begin(), lines.begin() + 5}),
-         "Line 7, item 1: the file ends before this item."},
+        {RosterText(80, 3, 1, 100, {lines.begin(), lines.begin() + 5}), "Line 7, item 1: the file ends before this item."},
         {RosterText(80, 3, 1, 100, odd), "Line 5: a player's chips are not a whole number of hundreds."},
-        {RosterText(8, 3, 1, 150, FieldLines(8)),
-         "Line 1: the small blind is not a whole number of hundreds."},
+        {RosterText(8, 3, 1, 150, FieldLines(8)), "Line 1: the small blind is not a whole number of hundreds."},
         {"8,3,1,100\r\n1,\"A\",lots,0,1\r\n", "Line 2, item 3: a whole number is expected."},
-        {RosterText(80, 3, 1, 100, lines) + std::string(kMaxRosterFileBytes, ' '),
-         "Cannot read " + path + ": the file is larger than 1 MB."},
-        {"", "Line 1, item 1: the file ends before this item."},
-        {"-", "Cannot read " + path + ": " + std::strerror(ENOENT) + "."},
+        {RosterText(80, 3, 1, 100, lines) + std::string(kMaxRosterFileBytes, ' '), "Cannot read " + path + ": the file is larger than 1 MB."},
+        {"", "Line 1, item 1: the file ends before this item."}, {"-", "Cannot read " + path + ": " + std::strerror(ENOENT) + "."},
         {kMostChips.substr(0, kMostChips.size() / 2), "Line 5, item 4: the file ends before this item."},
         {RosterText(1000, 5, 2, 100, FieldLines(999)), "Line 1001, item 1: the file ends before this item."},
-        {RosterText(50, 5, 2, 100, FieldLines(50)),
-         "Line 1: the size of the game is not 8, 80, 200 or 1000."},
+        {RosterText(50, 5, 2, 100, FieldLines(50)), "Line 1: the size of the game is not 8, 80, 200 or 1000."},
         {EightPlayers("8,5,2,100", -100), "Line 2: a player's chips are below zero."},
-        {EightPlayers("8,5,2,100", 2097200, "8,\"P8\",2096900,0,8"),
-         "Line 9: the chips of the game add up to more than it can hold."},
-        {EightPlayers("8,5,2,100", 10000, "8,\"P8\",0,9,8"),
-         "Line 9: a place is beyond the size of the game."},
+        {EightPlayers("8,5,2,100", 2097200, "8,\"P8\",2096900,0,8"), "Line 9: the chips of the game add up to more than it can hold."},
+        {EightPlayers("8,5,2,100", 10000, "8,\"P8\",0,9,8"), "Line 9: a place is beyond the size of the game."},
         {"8,5,2,100\r\n1,\"Open,10000,0,1\r\n", "Line 2, item 2: a quoted text is not closed on its line."},
         {"8,5,2,100\r\n70000,\"A\",10000,0,1\r\n", "Line 2, item 1: the number is outside -32768 to 32767."},
-        {EightPlayers("8,32767,2,100"), "Line 1: the count of hands is out of range."},
-        {EightPlayers("8,-1,2,100"), "Line 1: the count of hands is out of range."},
-        {EightPlayers("8,5,0,100"), "Line 1: the button is not at a seat from 1 to 8."},
-        {EightPlayers("8,5,9,100"), "Line 1: the button is not at a seat from 1 to 8."},
-        {EightPlayers("8,5,2,0"), "Line 1: the small blind is out of range."},
-    };
+        {EightPlayers("8,32767,2,100"), "Line 1: the count of hands is out of range."}, {EightPlayers("8,-1,2,100"), "Line 1: the count of hands is out of range."},
+        {EightPlayers("8,5,0,100"), "Line 1: the button is not at a seat from 1 to 8."}, {EightPlayers("8,5,9,100"), "Line 1: the button is not at a seat from 1 to 8."},
+        {EightPlayers("8,5,2,0"), "Line 1: the small blind is out of range."}};
+    // clang-format on
     for (bool midHand : {false, true}) {
         if (midHand) g.cmdDeal_Click();
         for (const auto& [text, reason] : cases) {
@@ -155,15 +147,13 @@ TEST_F(SafetyTest, CancelsAndFailedSavesKeepThePathTheFlagAndTheOldFile) {
     std::filesystem::create_directory(dir.File("taken.sgf"));
     const std::string failed = "There was an error saving the game.\n",
                       cannot = failed + "Cannot write " + dir.File("kept.sgf") + ": ";
+    // clang-format off
     const std::tuple<void (Game::*)(), const char*, const char*, int, int, std::string> cases[] = {
         {&Game::mnuOpen_Click, "else.sgf", "", 0, 0, "Saved game not opened."},
-        {&Game::mnuSave_Click, "", "", 0, 0, "There was an error saving the game."},
-        {&Game::SaveGame, "", "", 0, 0, "There was an error saving the game."},
+        {&Game::mnuSave_Click, "", "", 0, 0, "There was an error saving the game."}, {&Game::SaveGame, "", "", 0, 0, "There was an error saving the game."},
         {&Game::mnuSaveAs_Click, "kept.sgf", "", 0, 0, "There was an error saving the game."},
-        {&Game::SaveGame, "no-such-folder/game.sgf", "", 0, 0,
-         failed + "Cannot write " + dir.File("no-such-folder/game.sgf") + ": " + std::strerror(ENOENT) + "."},
-        {&Game::mnuSave_Click, "taken.sgf", "", 0, 0,
-         failed + "Cannot write " + dir.File("taken.sgf") + ": it is a folder."},
+        {&Game::SaveGame, "no-such-folder/game.sgf", "", 0, 0, failed + "Cannot write " + dir.File("no-such-folder/game.sgf") + ": " + std::strerror(ENOENT) + "."},
+        {&Game::mnuSave_Click, "taken.sgf", "", 0, 0, failed + "Cannot write " + dir.File("taken.sgf") + ": it is a folder."},
         {&Game::SaveGame, "kept.sgf", "open", 1, EACCES, cannot + std::strerror(EACCES) + "."},
         {&Game::SaveGame, "kept.sgf", "write", 1, ENOSPC, cannot + std::strerror(ENOSPC) + "."},
         {&Game::SaveGame, "kept.sgf", "fsync", 1, EIO, cannot + std::strerror(EIO) + "."},
@@ -171,6 +161,7 @@ TEST_F(SafetyTest, CancelsAndFailedSavesKeepThePathTheFlagAndTheOldFile) {
         {&Game::SaveGame, "kept.sgf", "rename", 1, EXDEV, cannot + std::strerror(EXDEV) + "."},
         // The folder's sync comes after the rename: the file is new, the flag stays.
         {&Game::SaveGame, "kept.sgf", "fsync", 2, EIO, cannot + std::strerror(EIO) + "."}};
+    // clang-format on
     gReal = SystemSaveCalls();
     for (const auto& [action, path, call, nth, error, message] : cases) {
         SCOPED_TRACE(std::string(path) + " " + call);

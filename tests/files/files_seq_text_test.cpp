@@ -26,24 +26,18 @@ std::string Items(SeqReader& in, const std::string& kinds) {
 
 TEST(SeqTextTest, ReaderTakesItemsByPosition) {
     // "!n:" is short for a failure on line 1 at item n.
+    // clang-format off
     const std::tuple<std::vector<const char*>, const char*, const char*> cases[] = {
-        {{"  12,\"a, b\" ,#TRUE#\r\n-7,  bare text  ,#false#\n\n\"\",+5\r3"},
-         "hsbhsbshh",
-         "12|a, b|T|-7|bare text|F||5|3"},
+        {{"  12,\"a, b\" ,#TRUE#\r\n-7,  bare text  ,#false#\n\n\"\",+5\r3"}, "hsbhsbshh", "12|a, b|T|-7|bare text|F||5|3"},
         {{"32767,-32768,2147483647,-2147483648"}, "hhll", "32767|-32768|2147483647|-2147483648"},
-        {{"1,2"}, "hhh", "1|2|!3: the file ends before this item."},
-        {{"1\r\n\r\n   \r\n"}, "hh", "1|!Line 4, item 1: the file ends before this item."},
+        {{"1,2"}, "hhh", "1|2|!3: the file ends before this item."}, {{"1\r\n\r\n   \r\n"}, "hh", "1|!Line 4, item 1: the file ends before this item."},
         {{"32768", "-32769"}, "h", "!1: the number is outside -32768 to 32767."},
-        {{"2147483648", "-2147483649", "99999999999999999999"},
-         "l",
-         "!1: the number is outside -2147483648 to 2147483647."},
-        {{"1\n12x"}, "hh", "1|!Line 2, item 1: a whole number is expected."},
-        {{"\"12\"", "1.5", "--1"}, "h", "!1: a whole number is expected."},
-        {{","}, "l", "!1: a whole number is expected."},
-        {{"TRUE", "xTRUE#", "\"#TRUE#\""}, "b", "!1: #TRUE# or #FALSE# is expected."},
-        {{"\"open", "\"open\r\n\""}, "s", "!1: a quoted text is not closed on its line."},
-        {{"\"a\"b,"}, "s", "!1: text follows the closing quote."},
+        {{"2147483648", "-2147483649", "99999999999999999999"}, "l", "!1: the number is outside -2147483648 to 2147483647."},
+        {{"1\n12x"}, "hh", "1|!Line 2, item 1: a whole number is expected."}, {{"\"12\"", "1.5", "--1"}, "h", "!1: a whole number is expected."},
+        {{","}, "l", "!1: a whole number is expected."}, {{"TRUE", "xTRUE#", "\"#TRUE#\""}, "b", "!1: #TRUE# or #FALSE# is expected."},
+        {{"\"open", "\"open\r\n\""}, "s", "!1: a quoted text is not closed on its line."}, {{"\"a\"b,"}, "s", "!1: text follows the closing quote."},
     };
+    // clang-format on
     for (const auto& [texts, kinds, expected] : cases) {
         std::string items = expected;
         if (const auto at = items.find("!"); at != std::string::npos && items[at + 2] == ':')

@@ -23,23 +23,18 @@ using SettingsTest = FileTest;
 
 // What was read is written back whole, as speed, sound, tips.
 TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
+    // clang-format off
     const std::tuple<const char*, int, bool, bool, const char*> cases[] = {
         // file (nullptr: none), speed, sound, tips, timers and mark
-        {"1,#TRUE#,#FALSE#\r\n", 1, true, false, kFast},
-        {"3,#FALSE#,#TRUE#\n", 3, false, true, kSlow},
-        {" 2 , #false# , #true#", 2, false, true, kMedium},
-        {"\xEF\xBB\xBF"
-         "3,#TRUE#,#FALSE#\r\n",
-         3, true, false, kSlow},
+        {"1,#TRUE#,#FALSE#\r\n", 1, true, false, kFast}, {"3,#FALSE#,#TRUE#\n", 3, false, true, kSlow},
+        {" 2 , #false# , #true#", 2, false, true, kMedium}, {"\xEF\xBB\xBF" "3,#TRUE#,#FALSE#\r\n", 3, true, false, kSlow},
         // A speed outside 1 to 3 changes no timer and no mark, and is written back as it was.
-        {"0,#FALSE#,#FALSE#\r\n", 0, false, false, kAsDrawn},
-        {"4,#TRUE#,#TRUE#\r\n", 4, true, true, kAsDrawn},
+        {"0,#FALSE#,#FALSE#\r\n", 0, false, false, kAsDrawn}, {"4,#TRUE#,#TRUE#\r\n", 4, true, true, kAsDrawn},
         // A file that cannot be read gives what the menus show before any file.
-        {nullptr, 2, true, true, kMedium},
-        {"3,#FALSE#", 2, true, true, kMedium},
-        {"fast,#FALSE#,#FALSE#\r\n", 2, true, true, kMedium},
-        {"1,-1,0\r\n", 2, true, true, kMedium},
+        {nullptr, 2, true, true, kMedium}, {"3,#FALSE#", 2, true, true, kMedium},
+        {"fast,#FALSE#,#FALSE#\r\n", 2, true, true, kMedium}, {"1,-1,0\r\n", 2, true, true, kMedium},
     };
+    // clang-format on
     for (const auto& [text, speed, sound, tips, timers] : cases) {
         SCOPED_TRACE(text ? text : "(no file)");
         ScriptedPlatform p2;

@@ -40,18 +40,15 @@ void SeatPlayer(Game& g, int seat, float bankLeft, int32_t totalBet, int32_t bet
     g.SeatBank[seat] = bankLeft;
     g.PlayersInHand = static_cast<int16_t>(g.PlayersInHand - g.SeatInHand[seat] + inHand);
     g.Pot += totalBet + bet - g.SeatTotalBet[seat] - g.SeatBet[seat];
-    g.SeatTotalBet[seat] = totalBet;
-    g.SeatBet[seat] = bet;
-    g.SeatInHand[seat] = inHand;
+    std::tie(g.SeatTotalBet[seat], g.SeatBet[seat], g.SeatInHand[seat]) =
+        std::make_tuple(totalBet, bet, inHand);
     g.view.icard[seat].visible = g.view.icard[seat + 8].visible = inHand;
 }
 
 void EmptyTable(Game& g, int16_t size) {
     g.TournamentSize = g.PlayersLeft = g.NextFinishPlace = size;
-    g.TablesInPlay = static_cast<int16_t>((size + kSeats - 1) / kSeats);
-    g.SmallBlind = 100;
-    g.Street = 4;
-    g.view.mnuSound.checked = true;
+    std::tie(g.TablesInPlay, g.SmallBlind, g.Street, g.view.mnuSound.checked) =
+        std::make_tuple(int16_t((size + kSeats - 1) / kSeats), 100, int16_t(4), true);
     for (int s = 1; s <= kSeats; ++s) g.SeatHandCode[s] = kNoHand;
     for (int i = 1; i <= size; ++i) g.RosterNumber[i] = static_cast<int16_t>(i);
     g.view.timer[TimerHandOver].enabled = true;
@@ -71,12 +68,9 @@ void SeatTable(Game& g, const std::vector<int32_t>& banks, int button, int32_t s
         g.RosterBank[s] = bank;
         players += bank > 0;
     }
-    g.ButtonSeat = static_cast<int16_t>(button);
-    g.SmallBlind = smallBlind;
-    g.TournamentSize = kSeats;
-    g.PlayersLeft = static_cast<int16_t>(players);
-    g.TablesInPlay = 1;
-    g.view.mnuSound.checked = true;
+    std::tie(g.ButtonSeat, g.SmallBlind, g.TournamentSize, g.PlayersLeft, g.TablesInPlay,
+             g.view.mnuSound.checked) =
+        std::make_tuple(int16_t(button), smallBlind, int16_t(kSeats), int16_t(players), int16_t(1), true);
 }
 
 std::vector<float> ShuffleDrawsFor(const std::vector<int>& front) {
