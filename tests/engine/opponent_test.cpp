@@ -7,26 +7,23 @@ namespace {
 
 using test::ScriptedPlatform;
 
-TEST(Opponent, HoleCardClasses) {
-    const std::pair<const char*, int> rows[] = {
+// The class of the hole cards; the chances before the flop by the class alone, after it by the code's row,
+// and for groups the hole cards of its ranks.
+TEST(Opponent, HoleCardClassesAndRateHand) {
+    ScriptedPlatform p;
+    Game g(p);
+    const std::pair<const char*, int> classes[] = {
         {"AhAs", 1}, {"9d9c", 1}, {"TdTc", 1}, {"8h8s", 2}, {"2h2c", 2}, {"JsQs", 3}, {"AcKc", 3},
         {"KhJd", 4}, {"Ah4s", 5}, {"Ah4h", 5}, {"4sAh", 6}, {"4hAh", 5}, {"TdAs", 6}, {"AsTd", 5},
         {"TdJd", 5}, {"Ts9s", 7}, {"7s2s", 7}, {"Ts9d", 8}, {"Ah2s", 5}, {"2s2d", 2}};
-    ScriptedPlatform p;
-    Game g(p);
     for (int k = 0; k < 20; k += 8) {  // eight seats a call, in the hand or not
-        for (int s = 1; s <= kSeats; ++s) test::SetHole(g, s, rows[(k + s - 1) % 20].first);
+        for (int s = 1; s <= kSeats; ++s) test::SetHole(g, s, classes[(k + s - 1) % 20].first);
         g.SeatInHand[3] = true;
         g.ClassifyHoleCards();
         for (int s = 1; s <= kSeats; ++s)
-            EXPECT_EQ(g.StartingHandClass[s], rows[(k + s - 1) % 20].second) << rows[(k + s - 1) % 20].first;
+            EXPECT_EQ(g.StartingHandClass[s], classes[(k + s - 1) % 20].second)
+                << classes[(k + s - 1) % 20].first;
     }
-}
-
-// Before the flop by the class alone; after it by the code's row, and for groups the hole cards of its ranks.
-TEST(Opponent, RateHandByClassThenByCodeAndHoleCards) {
-    ScriptedPlatform p;
-    Game g(p);
     g.CardsKnown = 2, g.SeatHandCode[3] = 1;  // the made hand plays no part before the flop
     const int before[9][2] = {{10, 0}, {90, 25}, {75, 20}, {65, 10}, {55, 5},
                               {50, 5}, {40, 5},  {30, 0},  {10, 0}};

@@ -271,36 +271,12 @@ TEST_F(Rank, HighCardsOnTheFlopAndTheTurn) {
     EXPECT_EQ(g.SeatHandName[5], "Two Pair");
 }
 
-// Every six-card rank pattern, each rank from the first suit up (flushes where they can be) and in three
-// spreads; then seeded random deals, eight seats each, on the flop, turn and river; odd input too.
-TEST(RankFast, EverySixCardPatternAndAMillionHandsAsTheReference) {
+// Seeded random deals, eight seats each, on the flop, turn and river; odd input too.
+TEST(RankFast, AMillionHandsAsTheReference) {
     // Were a table incomplete, the reference would stand in and prove nothing.
     for (int n : {5, 6, 7}) EXPECT_TRUE(RankPatterns(n).complete && FlushCodes().complete);
     Twin t;
-    std::mt19937 rng(6);
-    int patterns = 0;
-    std::array<int, 14> count{};
-    auto walk = [&](auto& self, int rank, int left) -> void {
-        if (left == 0) {
-            ++patterns;
-            for (int suiting = 0; suiting < 4; ++suiting) {
-                std::vector<int> cards;
-                for (int r = 1; r <= 13; ++r)
-                    for (int c = 0; c < count[r]; ++c) cards.push_back((c + suiting * r) % 4 * 13 + r);
-                std::shuffle(cards.begin(), cards.end(), rng);
-                t.Hole(1, cards[0], cards[1]);
-                for (int b = 0; b < 4; ++b) t.Board(b, cards[2 + b]);
-                t.Check(6);
-            }
-        } else if (rank <= 13) {
-            for (count[rank] = std::min(4, left); count[rank] >= 0; --count[rank])
-                self(self, rank + 1, left - count[rank]);
-            count[rank] = 0;
-        }
-    };
-    walk(walk, 1, 6);
-    EXPECT_EQ(patterns, 18395);
-    rng.seed(20240601);
+    std::mt19937 rng(20240601);
     std::array<int, 52> deck;
     std::iota(deck.begin(), deck.end(), 1);
     for (int deal = 0; deal < 125000; ++deal) {

@@ -165,30 +165,12 @@ TEST(Balance, Outcomes) {
             for (auto [pos, number] : r.at) EXPECT_EQ(g.RosterNumber[pos], number) << "at " << pos;
         }
     }
-}
-
-TEST(Balance, SingleTablesWideAndThinFields) {
     test::ScriptedPlatform p;
     Game g(p);
     SeatField(g, "xxx.....", 8);
     g.PlayersLeft = 99;
     g.BalanceTables();
     EXPECT_EQ(g.PlayersLeft, 99);  // a single-table game is not counted here
-
-    std::vector<int> counts(125, 8);
-    counts[1] = counts[2] = 5;  // tables 2 and 3
-    counts[124] = 7;            // table 124 becomes the fullest at step 2, so table 2 misses its turn
-    std::string map;
-    for (int c : counts) map += std::string(c, 'x') + std::string(kSeats - c, '.') + " ";
-    SeatField(g, map, 1000);
-    g.BalanceTables();
-    EXPECT_EQ(g.RosterNumber[RosterPosition(3, 6)], RosterPosition(124, 1));
-    EXPECT_EQ(g.RosterNumber[RosterPosition(2, 6)], RosterPosition(123, 1));
-    counts[1] = counts[2] = 6;
-    counts[122] = counts[123] = 7;
-    EXPECT_EQ(TableCounts(g, 125), counts);
-    EXPECT_EQ(g.TablesInPlay * 10000 + g.PlayersLeft, 125 * 10000 + 993);
-    ExpectPermutation(g, 1000);
 }
 
 // The figures after a round, and the next rise of the blinds by size and blind.

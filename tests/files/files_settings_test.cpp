@@ -56,14 +56,13 @@ TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
 TEST_F(SettingsTest, MenuEntriesSetTheTimersTheMarksAndTheFlags) {
     g.ReadSettings();
     g.EnableTimer(TimerBetFlop);
+    // clang-format off
     const std::tuple<void (Game::*)(), const char*, int, bool, bool> steps[] = {
-        {&Game::mnuFastSpeed_Click, kFast, 1, true, true},
-        {&Game::mnuSound_Click, kFast, 1, false, true},
-        {&Game::mnuSlowSpeed_Click, kSlow, 3, false, true},
-        {&Game::mnuTips_Click, kSlow, 3, false, false},
-        {&Game::mnuSound_Click, kSlow, 3, true, false},
-        {&Game::mnuMediumSpeed_Click, kMedium, 2, true, false},
+        {&Game::mnuFastSpeed_Click, kFast, 1, true, true}, {&Game::mnuSound_Click, kFast, 1, false, true},
+        {&Game::mnuSlowSpeed_Click, kSlow, 3, false, true}, {&Game::mnuTips_Click, kSlow, 3, false, false},
+        {&Game::mnuSound_Click, kSlow, 3, true, false}, {&Game::mnuMediumSpeed_Click, kMedium, 2, true, false},
         {&Game::mnuTips_Click, kMedium, 2, true, true}};
+    // clang-format on
     for (const auto& [click, timers, speed, sound, tips] : steps) {
         (g.*click)();
         EXPECT_EQ(std::make_tuple(Speed(g), int{g.GameSpeed}, g.RunningTimer(), g.SoundOn,
@@ -162,20 +161,12 @@ TEST(StatisticsFile, SurvivesARestartOrGivesTheDefaults) {
               std::make_tuple(0, true, false));  // keeps the panels
 
     const std::string good = "holdem statistics 1\ngames 2\nhands 10\nwon 3\n";
-    const std::string cases[] = {
-        "",
-        "holdem statistics 2\ngames 2\n",
-        "games 2\n",
-        good + "won three\n",
-        good + "hands -5\n",
-        good + "hands 99999999999\n",
-        good + "best-80 81\n",
-        good + "show-tourney 2\n",
-        good + "colour blue\n",
-        "holdem statistics 1\nhands 1\nwon 5\n",
-        good + std::string(20000, '\n'),
-        std::string("holdem statistics 1\0games 2\n", 28),
-    };
+    // clang-format off
+    const std::string cases[] = {"", "holdem statistics 2\ngames 2\n", "games 2\n", good + "won three\n", good + "won 3 3\n",
+        good + "hands -5\n", good + "hands 99999999999\n", good + "best-80 81\n", good + "show-tourney 2\n",
+        good + "colour blue\n", "holdem statistics 1\nhands 1\nwon 5\n", good + std::string(20000, '\n'),
+        std::string("holdem statistics 1\0games 2\n", 28)};
+    // clang-format on
     for (const std::string& text : cases) {
         SCOPED_TRACE(text.substr(0, 60));
         WriteAll(path, text);
