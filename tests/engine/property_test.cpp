@@ -1,10 +1,11 @@
-// Seeded games through the real timer chain. The driver checks after every step and every hand: chips
-// conserved at the table and in the field, one timer at a time, the roster a permutation, every busted player
-// placed once within 1..N, the tables in play balanced, no closing check fired. A field the user left plays
-// out to its winner.
+// Money and rounding, the random source, and seeded games through the real timer chain. The driver checks
+// after every step and every hand: chips conserved at the table and in the field, one timer at a time, the
+// roster a permutation, every busted player placed once within 1..N, the tables in play balanced, no closing
+// check fired. A field the user left plays out to its winner.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <set>
 
@@ -13,6 +14,48 @@
 
 namespace holdem::sim {
 namespace {
+
+TEST(Common, MoneyAndRoundingHalfToEven) {
+    EXPECT_EQ(Money(0) + " " + Money(999) + " " + Money(1000) + " " + Money(-2500) + " " + Money(123456789),
+              "0 999 1,000 -2,500 123,456,789");
+    for (auto [x, want] :
+         {std::pair{0.5, 0.0}, {1.5, 2.0}, {2.5, 2.0}, {-0.5, 0.0}, {2.4, 2.0}, {2.6, 3.0}}) {
+        EXPECT_EQ(RoundHalfEven(x), want) << x;
+        EXPECT_EQ(RoundHalfEven(static_cast<float>(x)), static_cast<float>(want)) << x;
+    }
+    volatile float five = 5.0f, share = 0.7f;
+    EXPECT_EQ(RoundHalfEven(five * share), 4.0f);  // 3.5 in single precision, 3.4999... in double
+}
+
+// Scripted draws are counted; a seed repeats exactly, also across reseeds,
+// and its draws spread evenly over the whole of [0, 1).
+TEST(Random, ScriptedAndSeededDraws) {
+    Random r;
+    r.Script({0.25f, 0.5f});
+    r.Randomize();
+    EXPECT_EQ(r.Rnd() + r.Rnd(), 0.75f);
+    EXPECT_EQ(r.Overdrawn() + r.Remaining(), 0u);
+    r.Rnd();
+    EXPECT_EQ(r.Overdrawn(), 1);
+
+    Random a, b, c;
+    a.SeedDeterministic(7), b.SeedDeterministic(7), c.SeedDeterministic(8);
+    EXPECT_NE(a.Rnd(), c.Rnd());
+    b.Rnd();
+    std::array<int, 20> bins{};
+    float low = 1, high = 0;
+    const int n = 100000;
+    for (int i = 0; i < n; ++i) {
+        if (i % 500 == 0) a.Randomize(), b.Randomize();
+        float x = a.Rnd();
+        ASSERT_EQ(x, b.Rnd());
+        ASSERT_TRUE(x >= 0.0f && x < 1.0f) << x;
+        ++bins[static_cast<int>(x * 20)];
+        low = std::min(low, x), high = std::max(high, x);
+    }
+    for (int count : bins) EXPECT_NEAR(count, n / 20, n / 200);
+    EXPECT_TRUE(low < 0.001f && high > 0.999f);
+}
 
 // Stopped after a round (unless that round ended it) and played on: the field ends with places 1..N, each
 // once. Tells whether it was stopped.

@@ -86,7 +86,10 @@ public:
 std::string Here() { return QCoreApplication::applicationDirPath().toStdString() + "/"; }
 bool FocusOnAButton() { return qobject_cast<QPushButton*>(QApplication::focusWidget()); }
 QString MenuTitles(frmMain& w) { return w.mnuSettings->title() + w.mnuFile->title() + w.mnuHelp->title(); }
-void Activate(QWidget& w) { w.show(), w.activateWindow(), QVERIFY(QTest::qWaitForWindowActive(&w)); }
+void Activate(QWidget& w) {
+    w.show(), w.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&w));
+}
 void Tick(frmMain& w, TimerId id, int times = 1) {
     for (int k = 0; k < times; ++k)
         QVERIFY2(RunningTimer(w) == id && (w.TimerTick(id), true), qPrintable(QString::number(id)));
@@ -386,13 +389,12 @@ private slots:
         QVERIFY(help.Page() == 2 && help.cmdPrevious->isEnabled() && !help.cmdNext->isEnabled());
     }
     void theSceneScalesAndNoTextCoversAnother() {
-        const std::tuple<const char*, QSize, qreal, bool> cases[] = {
-            // name, client area, scale, showdown
-            {"as_laid_out_dealing", {755, 508}, 1.0, false},
-            {"as_laid_out_showdown", {755, 508}, 1.0, true},
-            {"wide_showdown", {1400, 800}, 800 / 508.0, true},
-            {"twice_dealing", {1510, 1016}, 2.0, false},
+        // clang-format off
+        const std::tuple<const char*, QSize, qreal, bool> cases[] = {  // name, client area, scale, showdown
+            {"as_laid_out_dealing", {755, 508}, 1.0, false}, {"as_laid_out_showdown", {755, 508}, 1.0, true},
+            {"wide_showdown", {1400, 800}, 800 / 508.0, true}, {"twice_dealing", {1510, 1016}, 2.0, false},
             {"smaller_than_laid_out", {600, 400}, 1.0, true}};
+        // clang-format on
         for (const auto& [name, client, scale, showdown] : cases) {
             test::ScriptedPlatform platform;
             frmMain w(Here(), &platform);
