@@ -10,10 +10,8 @@ namespace {
 
 using namespace test;
 
-// StartHand on the all-zero shuffle over what an earlier hand left behind. Tells the positions and blinds:
-// button, small and large blind, the seat to act and the one before, players, pot, the high bet, then every
-// label of a bet and every stack that changed. All else the earlier hand left is cleared, the buttons and
-// menus of the pause between hands go, and the roster waits for the hand's end.
+// StartHand on the all-zero shuffle clears what an earlier hand left. Tells the button, the blinds, the
+// seat to act and the one before, players, pot, high bet, then every bet label and changed stack.
 std::string Start(Game& g, const std::vector<int32_t>& banks, int button, int32_t blind) {
     for (int s = 1; s <= kSeats; ++s) {
         g.SeatRaised[s] = g.view.lblPaid[s].visible = g.view.iArrow[s].visible = true;
@@ -93,8 +91,8 @@ TEST(StartHand, ButtonBlindsFirstToActAndAClearedTable) {
     }
 }
 
-// Three players: the user all in for $1,000 on the button, the small blind re-raises to $2,000, the large
-// blind calls, both check it down. Kings beat queens for the main pot; the queens take the side pot.
+// Three players: the user all in for $1,000 on the button, re-raised to $2,000 and called, checked down;
+// Kings take the main pot, Queens the side pot.
 TEST(HandLog, TellsASidePotHandFromBlindsToPayments) {
     ScriptedPlatform p;
     Game g(p);
@@ -200,8 +198,7 @@ TEST(UserAction, OpeningTheTurnAndEachPress) {
         g.OpenUserTurn();
         std::string opened = g.view.lblBet[1].text + " ";
         for (int i = 1; i <= 4; ++i) opened += g.view.cmdPlay[i].enabled ? std::to_string(i) : "";
-        EXPECT_EQ(opened, t.opened);
-        EXPECT_EQ(g.RunningTimer(), kTimerCount);
+        EXPECT_EQ(opened + (g.RunningTimer() == kTimerCount ? "" : " timer running"), t.opened);
         for (int i = 1; i <= 4; ++i) EXPECT_TRUE(g.view.cmdPlay[i].visible);
         p.sounds.clear();
         p.betAmounts.push_back(t.dialog);

@@ -1,5 +1,4 @@
-// The opponents' rule: the class of the hole cards, the chances of RateHand,
-// and the move drawn against them on the shown table and in the background.
+// The opponents' rule: hole-card classes, RateHand's chances, and the move drawn against them.
 #include "tests/support/builders.h"
 
 namespace holdem {
@@ -7,8 +6,7 @@ namespace {
 
 using test::ScriptedPlatform;
 
-// The class of the hole cards; the chances before the flop by the class alone, after it by the code's row,
-// and for groups the hole cards of its ranks.
+// Hole-card classes; RateHand by the class before the flop, after it by the code and the hole cards.
 TEST(Opponent, HoleCardClassesAndRateHand) {
     ScriptedPlatform p;
     Game g(p);
@@ -56,8 +54,7 @@ TEST(Opponent, HoleCardClassesAndRateHand) {
     for (auto [code, hole, call, raise] : rows)
         EXPECT_EQ(rate(code, hole), std::to_string(call) + "/" + std::to_string(raise))
             << code << " " << hole;
-    // Each two-pair code by its two ranks: one hole card of either gives h 1,
-    // both give 2, a rank of neither 0.
+    // Each two-pair code: a hole card of either rank gives h 1, both give 2, neither 0.
     const char* faces = "23456789TJQKA";
     int code = 61;
     for (int high = 12; high >= 1; --high)

@@ -1,7 +1,6 @@
-// Money and rounding, the random source, and seeded games through the real timer chain. The driver checks
-// after every step and every hand: chips conserved at the table and in the field, one timer at a time, the
-// roster a permutation, every busted player placed once within 1..N, the tables in play balanced, no closing
-// check fired. A field the user left plays out to its winner.
+// Money and rounding, the random source, and seeded games through the real timer chain, checked after every
+// step and hand: chips conserved, one timer at a time, the roster a permutation, places once within 1..N,
+// the tables balanced, no closing check; a field the user left plays out to its winner.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -27,8 +26,7 @@ TEST(Common, MoneyAndRoundingHalfToEven) {
     EXPECT_EQ(RoundHalfEven(five * share), 4.0f);  // 3.5 in single precision, 3.4999... in double
 }
 
-// Scripted draws are counted; a seed repeats exactly, also across reseeds,
-// and its draws spread evenly over the whole of [0, 1).
+// Scripted draws are counted; a seed repeats exactly, across reseeds too, and spreads over all of [0, 1).
 TEST(Random, ScriptedAndSeededDraws) {
     Random r;
     r.Script({0.25f, 0.5f});
@@ -57,8 +55,7 @@ TEST(Random, ScriptedAndSeededDraws) {
     EXPECT_TRUE(low < 0.001f && high > 0.999f);
 }
 
-// Stopped after a round (unless that round ended it) and played on: the field ends with places 1..N, each
-// once. Tells whether it was stopped.
+// Stopped after a round (unless that ended it), played on: places 1..N, each once. Tells if it stopped.
 bool CheckPlayOut(Game& g, int players) {
     g.view.logging = true;
     const int userPlace = g.UserFinishPlace;
@@ -87,9 +84,8 @@ bool CheckPlayOut(Game& g, int players) {
     return stopped;
 }
 
-// Every policy of the user, every field size, each game with the log and without. The signature mixes every
-// stack of the shown table and the players left after every hand, so it moves with any change of a draw, a
-// move, a payment or a place; it changes only when behaviour changes on purpose.
+// Every policy and field size, with the log and without. The signatures of stacks and players left after
+// every hand and of the printed log move with any change of a draw, a move, a payment or a place.
 TEST(Property, SeededGamesPlayCleanAndRepeatExactly) {
     const std::tuple<int, Policy, uint64_t, uint64_t> runs[] = {
         {8, Policy::Rule, 1, 200},     {8, Policy::Caller, 201, 240}, {8, Policy::Folder, 241, 280},

@@ -1,6 +1,5 @@
-// RankHands and CompareShowdown. RankHands answers from tables, the reference follows the rules step by step:
-// both must write the same code, name and arranged ranks for every hand; a census of every five-card hand,
-// seven-card showdowns against a short reference of the ordinary ranking, named cases.
+// RankHands (from tables) against the step-by-step reference on every hand; a census of every five-card
+// hand, seven-card showdowns against a short reference of the ordinary ranking in the test, named cases.
 #include <cstring>
 #include <numeric>
 #include <random>
@@ -13,8 +12,7 @@ namespace {
 
 using namespace test;
 
-// The same cards before both paths: g[0] ranks by the tables, g[1] by the
-// reference. Unwritten fields keep a mark, so a path that writes too much shows.
+// The same cards before the tables (g[0]) and the reference (g[1]); marks show a path that writes too much.
 struct Twin {
     test::ScriptedPlatform p;
     Game g[2] = {Game(p), Game(p)};
@@ -74,9 +72,8 @@ protected:
     Game g{p};
 };
 
-// Every five-card hand as the reference, eight seats a call; the codes fall into the nine classes in their
-// known numbers, every straight (flush) height, every rank of a group and every two pair equally often; on
-// the flop the high cards split by the draw rules.
+// Every five-card hand as the reference: the nine classes in their known numbers, every straight (flush)
+// height, group rank and two pair equally often; on the flop the high cards split by the draw rules.
 TEST(RankFast, EveryFiveCardHandAsTheReferenceByCode) {
     Twin t;
     std::array<int64_t, 201> byCode{};
@@ -111,8 +108,7 @@ TEST(RankFast, EveryFiveCardHandAsTheReferenceByCode) {
         for (int code = static_cast<int>(first); code <= last; ++code) EXPECT_EQ(byCode[code], each) << code;
 }
 
-// The ordinary ranking of poker hands: category in the top bits, then the
-// deciding ranks (2..14) four bits each.
+// The ordinary ranking: category in the top bits, then the deciding ranks (2..14) four bits each.
 uint32_t ValueOfFive(const int* cards) {
     int counts[15] = {};
     bool flush = true;
@@ -153,9 +149,8 @@ uint32_t BestOfSeven(const int* seven) {
     return best;
 }
 
-// Seeded showdowns of a full deck, of the high cards alone (quads, four Aces,
-// full houses) and of two suits (flushes against flushes): the code's class
-// and every comparison as the reference says, except that four Aces tie.
+// Seeded showdowns of a full deck, of the high cards alone and of two suits: the code's class and every
+// comparison as the reference says, except that four Aces tie.
 TEST_F(Rank, SevenCardShowdownsAgreeWithTheReference) {
     const std::array<int, 4> decks[] = {
         {1, 4, 8, 3000}, {8, 4, 5, 3000}, {1, 2, 8, 3000}};  // low rank, suits, seats, deals
@@ -194,8 +189,7 @@ TEST_F(Rank, SevenCardShowdownsAgreeWithTheReference) {
     for (int cat = HighCard; cat < kCategories; ++cat) EXPECT_GT(seen[cat], 20) << cat;
 }
 
-// Stack left full of the Ace of hearts (card 13): the reference reads a seat's cards from element 1, and
-// were it to read element 0 too, that Ace would turn a heart flush to K into a royal one.
+// Stack full of the Ace of hearts (13): were the reference to read element 0, a flush to K would be royal.
 [[gnu::noinline]] void FillStackWithAces() {
     volatile int junk[8192];
     for (volatile int& card : junk) card = 13;
@@ -247,8 +241,7 @@ TEST_F(Rank, NamedHandsCodesAndArrangedRanks) {
     EXPECT_EQ(ranked.code, 37);
 }
 
-// Before the river a hand with no pair keeps the name it had and its codes
-// tell the draws apart; BestRanks waits for the river.
+// Before the river no pair keeps its name, the codes tell the draws apart and BestRanks waits.
 TEST_F(Rank, HighCardsOnTheFlopAndTheTurn) {
     const std::pair<const char*, int> rows[] = {
         {"9h8s 6d5c4h", 199},   {"KhQs JdTc4h", 153}, {"AhJs 8d5c2h", 153},   {"AhKs QdJc9h", 154},

@@ -1,5 +1,4 @@
-// The tournament around the shown table: a background hand's one-pot settlement, the balancing of the tables,
-// the tournament figures and hurrying a hand.
+// The tournament around the shown table: background pots, balancing, figures and hurrying a hand.
 #include "engine/autoplay.h"
 #include "engine/end_of_hand.h"
 #include "engine/play_out.h"
@@ -8,8 +7,7 @@
 namespace holdem {
 namespace {
 
-// Settles table 3 with the stakes ("2:3000+2000:120": SeatTotalBet, SeatBet,
-// code, or "-" for a folded seat) and tells what each seat gained.
+// Settles table 3 ("2:3000+2000:120": SeatTotalBet, SeatBet, code or "-" folded); tells each gain.
 std::string SettleBackground(const std::string& stakes, int32_t potExtra = 0) {
     test::ScriptedPlatform p;
     Game g(p);
@@ -70,8 +68,7 @@ TEST(Background, OnePotToTheLowestCode) {
     }
 }
 
-// A field of 80 laid out by a seat map, tables apart by spaces: 'x' a player with chips, '.' a busted record.
-// Record number = position before, so where records went can be read back; the tags mark positions.
+// A field of 80 by a seat map, tables apart by spaces: 'x' has chips, '.' is out; number = position before.
 void SeatField(Game& g, const std::string& map, int size) {
     g.TournamentSize = static_cast<int16_t>(size);
     std::string seats;
@@ -200,8 +197,7 @@ TEST(TourneyFigures, FromTheRosterAndTheNextRise) {
     }
 }
 
-// The user folds at the first turn; the rest of the hand runs tick by tick
-// as the window's timers would fire it, or all at once by FinishHand.
+// The user folds at once; the rest of the hand runs tick by tick, or all at once by FinishHand.
 std::string FoldAndFinish(int players, uint64_t seed, bool hurry) {
     test::ScriptedPlatform p;
     Game g(p);

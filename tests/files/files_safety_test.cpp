@@ -1,5 +1,4 @@
-// What the player keeps when a file fails: the game in play after a refused open or new game,
-// the old file after a failed save (and no temporary file), and memory before a huge file.
+// What a failed file leaves: the game in play, the old file and no temporary one, memory before a huge file.
 #include <sys/stat.h>
 
 #include <cerrno>
@@ -8,7 +7,6 @@
 
 #include "files/safe_file.h"
 #include "tests/files/files_test_util.h"
-#include "tests/support/builders.h"
 #include "views/field_copy.h"
 #include "views/tip_model.h"
 
@@ -45,7 +43,7 @@ TEST_F(SafetyTest, RefusedOpenOrNewGameLeavesTheGameInPlayAsItWas) {
     lines = FieldLines(80);
     auto odd = lines;
     odd[3] = PlayerLine(4, "Odd", 10050, 0, 4);
-    // Each file just beyond a range, with the reason given under the message; "-" opens a missing file.
+    // Each file just beyond a range and the reason given under the message; "-" opens a missing file.
     // clang-format off
     const std::pair<std::string, std::string> cases[] = {
         {RosterText(80, 3, 1, 100, {lines.begin(), lines.begin() + 5}), "Line 7, item 1: the file ends before this item."},
@@ -112,8 +110,7 @@ TEST_F(SafetyTest, RefusedOpenOrNewGameLeavesTheGameInPlayAsItWas) {
     EXPECT_TRUE(p.messages.empty() && p.saveDialogs.empty() && !g.GameUnsaved);
     EXPECT_EQ(ReadAll(dir.File("start.sgf")).substr(0, 6), "80,14,");
 
-    // Amounts in hundreds open, though a settlement that reported a shortfall
-    // has left the field with fewer chips than it started with.
+    // Amounts in hundreds open though the field holds fewer chips, as after a settlement's shortfall.
     lines[3] = PlayerLine(4, "Short", 9700, 0, 4);
     Open(RosterText(80, 5, 2, 600, lines), LoadDraws());
     EXPECT_TRUE(p.messages.empty());
@@ -137,9 +134,8 @@ const SaveCalls kInjecting{
     [](const char* a, const char* b) { return Injected("rename") ? -1 : gReal.rename(a, b); },
 };
 
-// A cancelled dialog or a failed save tells the user and keeps the path, the flag, the hand and the old
-// file, and leaves no temporary file. Each case: the action, the path before ("" none), the call that
-// fails, which call of its kind and the error ("" none fails), and the message.
+// A cancelled dialog or a failed save keeps the path, flag, hand and old file, and leaves no temporary file.
+// Each case: the action, the path before ("" none), the call that fails, its turn and error, the message.
 TEST_F(SafetyTest, CancelsAndFailedSavesKeepThePathTheFlagAndTheOldFile) {
     Open(RosterText(8, 5, 2, 100, FieldLines(8)), LoadDraws());
     g.StopHandTimers();
@@ -230,12 +226,10 @@ TEST_F(SafetyTest, EveryFileOverItsLimitIsRefusedAndOneAtItsLimitRead) {
     }
 }
 
-// Seeded mutations of every kind of file the game reads, each read or refused; a refused saved game
-// or list of players leaves the game in play as it was. Also run under the sanitizers.
+// Seeded damage to every file the game reads: each read or refused, the game in play kept. Also sanitized.
 constexpr int kInputs = 2000;
 
-// One damage, or four at once: cut short, a byte changed, a number out of range
-// or odd, a delimiter or blanks put in, a line lost or doubled.
+// One damage or four: cut short, a byte or number changed, a delimiter or blanks in, a line lost or doubled.
 std::string Mutate(std::string text, std::mt19937& rng) {
     static const char* const kNumbers[] = {"99999999999", "2147483648", "-32769", "32767",   "0",
                                            "-1",          "1000",       "150",    "16777217"};

@@ -71,8 +71,7 @@ TEST_F(SettingsTest, MenuEntriesSetTheTimersTheMarksAndTheFlags) {
     }
 }
 
-// An installed copy writes only the user folder, even where it could write its own; so does a copy whose
-// folder is unwritable (a file in the way, even for root), and its settings stay there after.
+// An installed or unwritable copy writes only the user folder, and its settings stay there after.
 TEST_F(SettingsTest, InstalledOrUnwritableCopiesWriteTheUserFolder) {
     WriteAll(dir.File("blocked"), "not a folder");
     for (bool installed : {true, false}) {
@@ -179,8 +178,7 @@ TEST(StatisticsFile, SurvivesARestartOrGivesTheDefaults) {
     EXPECT_EQ(ReadStatistics(path).gamesPlayed, 2);
 }
 
-// The record follows the log: games begun (not opened) and tournaments, hands dealt in, the first chips
-// put in by choice before the flop, pots won and those won at a showdown, the best finish by field size.
+// The record follows the log: games, tournaments, hands, chips in by choice, pots, showdowns, best finishes.
 TEST(StatisticsFile, TheWatcherKeepsTheRecordFromTheLog) {
     using K = LogKind;
     // clang-format off

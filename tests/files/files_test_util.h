@@ -1,18 +1,12 @@
-// Builders shared by the file tests: a private folder, whole-file reads and
-// writes, roster files as text, and a game wired to a scripted platform.
+// Builders of the file tests: a private folder, whole files, roster files as text, a game on a script.
 #pragma once
-
-#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string>
 #include <tuple>
-#include <vector>
 
-#include "engine/game_state.h"
-#include "tests/support/scripted_platform.h"
+#include "tests/support/builders.h"
 
 namespace holdem::test {
 
@@ -88,8 +82,7 @@ protected:
         g.rnd.Script(std::move(draws));
         g.mnuOpen_Click();
     }
-    // Exactly one message box, then the record is cleared. Only the first line
-    // of the text is pinned: a reason may follow it.
+    // Exactly one message box, its first line (a reason may follow), then the record is cleared.
     void ExpectMessage(const std::string& text, const std::string& title, MsgIcon icon = MsgIcon::Exclamation,
                        MsgButtons buttons = MsgButtons::OK) {
         ASSERT_EQ(p.messages.size(), 1u);
@@ -98,10 +91,7 @@ protected:
         EXPECT_EQ(std::tie(first, m.title, m.icon, m.buttons), std::tie(text, title, icon, buttons));
         p.messages.clear();
     }
-    void ExpectDrawsUsed(const Game& game) {
-        EXPECT_EQ(std::make_pair(game.rnd.Remaining(), game.rnd.Overdrawn()),
-                  std::make_pair(std::size_t{0}, 0));
-    }
+    void ExpectDrawsUsed(const Game& game) { EXPECT_EQ(game.rnd.Remaining() + game.rnd.Overdrawn(), 0u); }
 };
 
 }  // namespace holdem::test

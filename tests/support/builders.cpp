@@ -31,8 +31,7 @@ void SetBoard(Game& g, const std::string& cards) {
 
 void SetHole(Game& g, int seat, const std::string& cards) {
     std::vector<int16_t> hole = CardsOf(cards);
-    g.SeatCards[seat][1] = hole[0];
-    g.SeatCards[seat][2] = hole[1];
+    g.SeatCards[seat][1] = hole[0], g.SeatCards[seat][2] = hole[1];
 }
 
 void SeatPlayer(Game& g, int seat, float bankLeft, int32_t totalBet, int32_t bet, bool inHand) {
@@ -54,10 +53,7 @@ void EmptyTable(Game& g, int16_t size) {
     g.view.timer[TimerHandOver].enabled = true;
 }
 
-void RankRiver(Game& g) {
-    g.CardsKnown = 7;
-    g.RankHands();
-}
+void RankRiver(Game& g) { g.CardsKnown = 7, g.RankHands(); }
 
 void SeatTable(Game& g, const std::vector<int32_t>& banks, int button, int32_t smallBlind) {
     int s = 0, players = 0;

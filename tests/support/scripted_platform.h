@@ -20,8 +20,7 @@ class ScriptedPlatform : public Platform {
 public:
     MsgAnswer MessageBox(const std::string& text, const std::string& title, MsgIcon icon,
                          MsgButtons buttons) override {
-        messages.push_back({text, title, icon, buttons});
-        return Take(answers, MsgAnswer::OK);
+        return messages.push_back({text, title, icon, buttons}), Take(answers, MsgAnswer::OK);
     }
     std::optional<std::string> OpenFileDialog(const FileDialogRequest& r) override {
         return openDialogs.push_back(r), Take(openPaths, {});

@@ -1,5 +1,4 @@
-// The window, its forms, pictures and sounds on the offscreen platform at a device pixel ratio
-// of 2 (unless QT_SCALE_FACTOR says otherwise). Each form is photographed beside the program.
+// The window, its forms, pictures and sounds offscreen at a device pixel ratio of 2; each form photographed.
 #include <QtTest>
 #include <QtWidgets>
 #include <fstream>
@@ -22,8 +21,8 @@
 using namespace holdem;
 
 namespace {
-// Seat 1 against seat 2. With every shuffle draw 0 the button moves to seat 2, whose King-high
-// straight flush in diamonds beats seat 1's Queen-high one; seat 2 checks, checks and calls.
+// Seat 1 against seat 2: on the all-zero shuffle seat 2 has the button and a King-high straight flush in
+// diamonds over seat 1's Queen-high one; seat 2 checks, checks and calls.
 void SetUpHeadsUp(frmMain& w) {
     Game& g = w.game;
     for (int s = 1; s <= kSeats; ++s)
@@ -206,8 +205,7 @@ private slots:
             QTRY_VERIFY(!FocusOnAButton());
         }
     }
-    // The same seeded hands, once undisturbed and once with every form that
-    // the table opens brought up and closed at every step.
+    // The same seeded hands, undisturbed and with every form of the table opened and closed at every step.
     void openingFormsNeverChangesAHand() {
         QStringList record[2];
         for (int disturbed = 0; disturbed < 2; ++disturbed) {
@@ -282,8 +280,8 @@ private slots:
                 std::make_tuple(std::size_t(asks), int(leaves), !leaves, unsaved && !saves, saves, leaves));
         }
     }
-    // Only digits get through, typed or pasted; Ctrl+A takes them all. OK or Enter refuses with a
-    // message, or closes with the amount plus the $1,200 to call; Escape closes with none.
+    // Only digits get in, typed or pasted; Ctrl+A takes all. OK or Enter refuses, or closes with the
+    // amount and the $1,200 to call; Escape closes with none.
     void theBetDialogByKeys() {
         enum { OK, Enter, Escape };
         const std::tuple<const char*, const char*, int, const char*, const char*, int> cases[] = {
@@ -341,8 +339,7 @@ private slots:
         QTest::keyClick(&splash, Qt::Key_Space);
         QVERIFY(!splash.isVisible() && !splash.timerSplash->isActive());
     }
-    // A thousand players, the user out first: the standings page by clicks and keys and find the
-    // user; the floor names a clicked seat; the tip and help forms turn over.
+    // A field of 1,000, the user out first: standings paged by clicks and keys; floor, tip and help forms.
     void theFieldViews() {
         const std::string stnd = WriteStnd(dir_.filePath("stnd.dat"), 1000);
         frmRankings standings(stnd);
