@@ -133,9 +133,8 @@ TEST(HandLog, TellsASidePotHandFromBlindsToPayments) {
 }
 
 // clang-format off
-// The stakes are "seat:bet" this street, "-seat" folded; the bank is the user's stack before them; the
-// dialog, what the bet dialog hands back. Opened: lblBet(1) and the enabled buttons when the turn opens.
-// Outcome: lblBet(1) | timer | HighBetIndex/Value | bank, pot | CurrentSeat | message.
+// Stakes "seat:bet" this street, "-seat" folded; bank: the user's stack before; dialog: what it hands back.
+// Opened: lblBet(1), buttons on. Outcome: lblBet(1) | timer | HighBetIndex/Value | bank pot | CurrentSeat |
 struct Turn { int street; const char* stakes; int32_t bank; int highIndex; int32_t highValue; int button, press; int32_t dialog; const char *opened, *outcome; };
 const Turn kTurns[] = {
     {2, "4:600", 10000, 4, 600, 1, 2, 0, "Amount to Call: $600 234", "Called $600 | 3 | 4/600 | 9400 1200 | 2 |"},

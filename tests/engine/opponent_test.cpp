@@ -70,9 +70,8 @@ TEST(Opponent, HoleCardClassesAndRateHand) {
         }
 }
 
-// Seat 5 moves; seat 3 holds the high bet when there is one. Draws are the percentages 100 * r; x draws
-// Round(9r + 1) before the flop and Round(19r + 1) after it, each chosen so that a scale one off, a floor or
-// the other rounding gives another amount.
+// Seat 5 moves, seat 3 holds any high bet. Draws are the percentages 100 * r; x draws Round(9r + 1) before
+// the flop, Round(19r + 1) after it, chosen so that a scale one off, a floor or the other rounding tells.
 // clang-format off
 struct Move { int street; bool background; int16_t call, raise; int32_t bank, stake, high; bool raised; std::vector<float> draws;
               const char* words; int32_t stakeAfter, highAfter; int highIndexAfter; bool raisedAfter, inHandAfter; };

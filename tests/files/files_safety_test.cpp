@@ -15,13 +15,9 @@ namespace {
 
 // Fires timers and folds (or checks) at the user's turn until the hand is over.
 void FinishHand(Game& g) {
-    for (int step = 0; step < 2000 && (g.RunningTimer() != kTimerCount || g.view.cmdPlay[1].visible);
-         ++step) {
-        if (g.RunningTimer() != kTimerCount)
-            g.FireTimer(g.RunningTimer());
-        else
-            g.cmdPlay_Click(g.view.cmdPlay[1].enabled ? 1 : 4);
-    }
+    for (int step = 0; step < 2000 && (g.RunningTimer() != kTimerCount || g.view.cmdPlay[1].visible); ++step)
+        g.RunningTimer() != kTimerCount ? g.FireTimer(g.RunningTimer())
+                                        : g.cmdPlay_Click(g.view.cmdPlay[1].enabled ? 1 : 4);
     ASSERT_TRUE(g.view.cmdDeal.visible || g.GameEnded);
 }
 
