@@ -105,6 +105,7 @@ TEST(EndOfHand, PlacesBlindsAndTheEndOfTheGame) {
         if (i != 75 && i != 140) wide.push_back(i);
     wide.push_back(41), wide.push_back(42);
     // clang-format off
+    // The blinds follow the count before the hand: 7 left, so still 100; then 6, so 200.
     const struct { int16_t size; std::vector<int> out, elsewhere; int32_t blind; bool sound, deal; std::vector<std::tuple<int32_t, bool, int, const char*>> hands; std::vector<int> places; } cases[] = {
         {8, {8}, {}, 100, true, false, {{10000, true, 2, "left 6 next 6 user 0 Blinds: $100 - $200 deal standings floor save unsaved WONHAND pauses 1"},
                                         {1000, true, 3, "left 6 next 6 user 0 Blinds: $200 - $400 deal standings floor save unsaved WONHAND pauses 1"}}, {0, 7, 8, 0, 0, 0, 0, 0}},
