@@ -1,16 +1,7 @@
-// The end of a hand: paying the shown table, then the blinds, the finishing
-// places, the ways a hand leaves the game, the finish text and the pot breakdown.
+// The end of a hand: paying the shown table, the blinds, the places, the ways out, the pot breakdown.
 #include "engine/end_of_hand.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <sstream>
-#include <string>
-#include <vector>
-
 #include "tests/support/builders.h"
-#include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
@@ -50,14 +41,11 @@ TEST(EndOfHand, BlindsByPlayersLeftAtEveryBoundary) {
               "Finished 101st,You Finished 111th,You Finished 112th,You Finished 1000th,");
 }
 
-// A shown hand at its end: the user in seat 1 against one opponent, the rest
-// folded with nothing in; the other tables play no hand.
-class HandOver : public ::testing::Test {
-protected:
-    void SetUp() override { g.rnd.Script({}); }
-    void TearDown() override { test::ExpectSettled(g); }
-    // `size` players of 10,000; those in `out` busted before, in rising order
-    // of place from NextFinishPlace + 1.
+// A shown hand at its end: the user against one opponent, the rest folded; no other table plays.
+struct HandOver {
+    HandOver() { g.rnd.Script({}); }
+    ~HandOver() { test::ExpectSettled(g); }
+    // `size` players of 10,000; those in `out` busted before, placed upward from NextFinishPlace + 1.
     void Field(int16_t size, const std::vector<int>& out = {}) {
         test::EmptyTable(g, size);
         for (int i = 1; i <= size; ++i)
@@ -91,15 +79,14 @@ protected:
         std::ostringstream s;
         s << "left " << g.PlayersLeft << " next " << g.NextFinishPlace << " user " << g.UserFinishPlace << " "
           << g.view.lblBlind.text;
-        const std::pair<bool, const char*> flags[] = {
-            {g.view.cmdDeal.visible, " deal"},
-            {g.view.cmdStandings.visible, " standings"},
-            {g.view.cmdFloor.visible, " floor"},
-            {g.view.picTableMoney.visible, " winner"},
-            {g.view.mnuSave.enabled && g.view.mnuSaveAs.enabled, " save"},
-            {g.GameUnsaved, " unsaved"},
-            {g.GameEnded, " ended"}};
-        for (auto [on, what] : flags)
+        const View& v = g.view;
+        for (auto [on, what] : {std::pair(v.cmdDeal.visible, " deal"),
+                                {v.cmdStandings.visible, " standings"},
+                                {v.cmdFloor.visible, " floor"},
+                                {v.picTableMoney.visible, " winner"},
+                                {v.mnuSave.enabled && v.mnuSaveAs.enabled, " save"},
+                                {g.GameUnsaved, " unsaved"},
+                                {g.GameEnded, " ended"}})
             if (on) s << what;
         for (const auto& sound : p.sounds) s << " " << sound;
         for (int16_t place : p.gameOvers) s << " over " << place;
@@ -110,66 +97,55 @@ protected:
     Game g{p};
 };
 
-TEST_F(HandOver, TheGameGoesOnAndTheBlindsFollowThePreviousCount) {
-    Field(8, {8});
-    g.GameUnsaved = g.view.mnuSave.enabled = g.view.mnuSaveAs.enabled = false;
-    Showdown(10000, true);  // seat 2 busts: 7 left at the count before, so 100 still
-    EXPECT_EQ(State(),
-              "left 6 next 6 user 0 Blinds: $100 - $200 deal standings floor save unsaved WONHAND pauses 1");
-    EXPECT_EQ(g.RosterPlace[2], 7);
-    for (int s = 1; s <= kSeats; ++s) EXPECT_EQ(g.BreakdownName[s], g.RosterName[s]);
-    EXPECT_EQ(g.RunningTimer(), kTimerCount);
-    Showdown(1000, true, 3);  // nobody out; the next hand plays at 200
-    EXPECT_EQ(g.view.lblBlind.text, "Blinds: $200 - $400");
-    EXPECT_EQ(g.RosterPlace[2], 7);  // a place is given once
-}
-
-TEST_F(HandOver, BustedTogetherTheUserTakesTheWorstPlace) {
-    std::vector<int> out;  // out before, with places 58 to 200
+// Each case: the field (size, out before), those out at other tables now, blind, sound, Deal shown; each hand
+// (stake, user wins, opponent) and the game after it; the places of 1, 2, 8, 20, 41, 75, 140 and 200.
+TEST(EndOfHand, PlacesBlindsAndTheEndOfTheGame) {
+    std::vector<int> wide;  // out before in a field of 200, with places 58 to 200
     for (int i = 58; i <= 200; ++i)
-        if (i != 75 && i != 140) out.push_back(i);
-    out.push_back(41), out.push_back(42);
-    Field(200, out);
-    ASSERT_EQ(g.NextFinishPlace, 57);
-    for (int i : {20, 75, 140}) g.RosterBank[i] = 0;  // busted at their tables this round
-    g.SmallBlind = 800;
-    Showdown(10000, false);
-    EXPECT_EQ(State(),
-              "left 53 next 53 user 57 Blinds: $800 - $1,600 save unsaved ended LOSTHAND GAMEOVER over 57 "
-              "pauses 1");
-    EXPECT_EQ(std::vector<int>({g.RosterPlace[1], g.RosterPlace[20], g.RosterPlace[75], g.RosterPlace[140],
-                                g.RosterPlace[41], g.RosterPlace[200]}),
-              std::vector<int>({57, 56, 55, 54, 199, 198}));  // earlier places stand
-}
-
-// The user and seat 2 are the last two, sound off: the end sounds play all the same.
-TEST_F(HandOver, TheLastTwo) {
-    for (bool userWins : {false, true}) {
-        p.sounds.clear(), p.gameOvers.clear(), p.pauses = 0;
-        Field(8, {8, 7, 6, 5, 4, 3});
-        g.GameEnded = g.view.picTableMoney.visible = false;
-        g.view.mnuSound.checked = false;
-        g.view.cmdDeal.visible = !userWins;  // closing the game-over form hides it
-        Showdown(10000, userWins);
-        EXPECT_EQ(
-            State(),
-            userWins
-                ? "left 1 next 1 user 0 Blinds: $1,000 - $2,000 winner save unsaved ended WIN pauses 2"
-                : "left 1 next 1 user 2 Blinds: $1,000 - $2,000 save unsaved ended GAMEOVER over 2 pauses 1");
-        EXPECT_EQ(std::to_string(g.RosterPlace[1]) + " " + std::to_string(g.RosterPlace[2]),
-                  userWins ? "0 2" : "2 0");
+        if (i != 75 && i != 140) wide.push_back(i);
+    wide.push_back(41), wide.push_back(42);
+    // clang-format off
+    // The blinds follow the count before the hand: 7 left, so still 100; then 6, so 200.
+    const struct { int16_t size; std::vector<int> out, elsewhere; int32_t blind; bool sound, deal; std::vector<std::tuple<int32_t, bool, int, const char*>> hands; std::vector<int> places; } cases[] = {
+        {8, {8}, {}, 100, true, false, {{10000, true, 2, "left 6 next 6 user 0 Blinds: $100 - $200 deal standings floor save unsaved WONHAND pauses 1"},
+                                        {1000, true, 3, "left 6 next 6 user 0 Blinds: $200 - $400 deal standings floor save unsaved WONHAND pauses 1"}}, {0, 7, 8, 0, 0, 0, 0, 0}},
+        {200, wide, {20, 75, 140}, 800, true, false, {{10000, false, 2, "left 53 next 53 user 57 Blinds: $800 - $1,600 save unsaved ended LOSTHAND GAMEOVER over 57 pauses 1"}}, {57, 0, 0, 56, 199, 55, 54, 198}},
+        // The last two, sound off: the end sounds play all the same. Closing the game-over form hid Deal.
+        {8, {8, 7, 6, 5, 4, 3}, {}, 100, false, true, {{10000, false, 2, "left 1 next 1 user 2 Blinds: $1,000 - $2,000 save unsaved ended GAMEOVER over 2 pauses 1"}}, {2, 0, 3, 0, 0, 0, 0, 0}},
+        {8, {8, 7, 6, 5, 4, 3}, {}, 100, false, false, {{10000, true, 2, "left 1 next 1 user 0 Blinds: $1,000 - $2,000 winner save unsaved ended WIN pauses 2"}}, {0, 2, 3, 0, 0, 0, 0, 0}},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::get<3>(c.hands.back()));
+        HandOver t;
+        Game& g = t.g;
+        t.Field(c.size, c.out);
+        for (int i : c.elsewhere) g.RosterBank[i] = 0;
+        g.SmallBlind = c.blind, g.view.mnuSound.checked = c.sound, g.view.cmdDeal.visible = c.deal;
+        for (const auto& [stake, userWins, opponent, state] : c.hands) {
+            t.p.sounds.clear(), t.p.gameOvers.clear(), t.p.pauses = 0;
+            t.Showdown(stake, userWins, opponent);
+            EXPECT_EQ(t.State() + (g.RunningTimer() == kTimerCount ? "" : " timer running"), state);
+            for (int s = 1; s <= kSeats; ++s) EXPECT_EQ(g.BreakdownName[s], g.RosterName[s]);
+        }
+        std::vector<int> places;
+        for (int pos : {1, 2, 8, 20, 41, 75, 140, 200}) places.push_back(g.RosterPlace[pos]);
+        EXPECT_EQ(places, c.places);  // a place is given once, and earlier places stand
     }
 }
 
-TEST_F(HandOver, PotBreakdownLiveThenSnapshot) {
-    Field(8, {5});
+TEST(EndOfHand, PotBreakdownLiveThenSnapshot) {
+    HandOver t;
+    Game& g = t.g;
+    test::ScriptedPlatform& p = t.p;
+    t.Field(8, {5});
     g.RosterName[5] = "";
     test::SeatPlayer(g, 1, 9000.0f, 600, 400);
     test::SeatPlayer(g, 2, 9000.0f, 600, 400);
     test::SeatPlayer(g, 3, 9400.0f, 600, 0, false);
     test::SetHole(g, 1, "AhAd");
     test::SetHole(g, 2, "KhKd");
-    auto shown = [this] {
+    auto shown = [&p] {
         const PotBreakdown& b = p.breakdowns.back();
         std::string s;
         for (int i = 1; i <= kSeats; ++i) s += b.name[i] + "=" + std::to_string(b.bet[i]) + " ";
@@ -199,14 +175,11 @@ TEST_F(HandOver, PotBreakdownLiveThenSnapshot) {
     EXPECT_EQ(p.breakdowns.size(), 4u);
 }
 
-// Paying the shown table: finish order, stake levels, layers, odd hundreds,
-// the winners' marks, the sound, the pause and the closing check.
+// Paying the shown table: finish order, stake levels, layers, odd hundreds, marks, sound, pause, check.
 constexpr int32_t kStart = 10000;
 
-// Eight seats of 10,000 over a board that pairs and draws to nothing; the
-// seats named ("2:1000:AhAd", no cards when folded) put their stake in.
-// Tells "seat:paid ..." from the labels, ">" the arrowed seats, the sounds
-// and the closing-check messages.
+// Eight seats of 10,000 over a board of nothing; the seats named ("2:1000:AhAd", no cards when folded) put
+// their stake in. Tells "seat:paid" from the labels, ">" the arrowed seats, the sounds and the checks.
 std::string Settle(const std::string& stakes, bool sound = true) {
     test::ScriptedPlatform p;
     Game g(p);
@@ -247,10 +220,8 @@ std::string Settle(const std::string& stakes, bool sound = true) {
         out += " | " + m.text;
         EXPECT_TRUE(m.buttons == MsgButtons::OK && m.icon == MsgIcon::None && m.title.empty());
     }
-    EXPECT_EQ(g.UserWonHand, g.view.iArrow[1].visible);
-    EXPECT_TRUE(g.HandIsOver);
-    EXPECT_EQ(p.pauses, 1);
-    EXPECT_EQ(g.rnd.Overdrawn(), 0);
+    EXPECT_EQ(std::make_tuple(g.UserWonHand, g.HandIsOver, p.pauses, g.rnd.Overdrawn()),
+              std::make_tuple(g.view.iArrow[1].visible, true, 1, 0));
     return out;
 }
 

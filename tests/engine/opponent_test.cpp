@@ -1,50 +1,35 @@
-// The opponents' rule: the class of the hole cards, the chances of RateHand,
-// and the move drawn against them on the shown table and in the background.
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
+// The opponents' rule: hole-card classes, RateHand's chances, and the move drawn against them.
 #include "tests/support/builders.h"
-#include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
 
 using test::ScriptedPlatform;
 
-TEST(Opponent, HoleCardClasses) {
-    const std::pair<const char*, int> rows[] = {
+// Hole-card classes; RateHand by the class before the flop, after it by the code and the hole cards.
+TEST(Opponent, HoleCardClassesAndRateHand) {
+    ScriptedPlatform p;
+    Game g(p);
+    const std::pair<const char*, int> classes[] = {
         {"AhAs", 1}, {"9d9c", 1}, {"TdTc", 1}, {"8h8s", 2}, {"2h2c", 2}, {"JsQs", 3}, {"AcKc", 3},
         {"KhJd", 4}, {"Ah4s", 5}, {"Ah4h", 5}, {"4sAh", 6}, {"4hAh", 5}, {"TdAs", 6}, {"AsTd", 5},
         {"TdJd", 5}, {"Ts9s", 7}, {"7s2s", 7}, {"Ts9d", 8}, {"Ah2s", 5}, {"2s2d", 2}};
-    ScriptedPlatform p;
-    Game g(p);
     for (int k = 0; k < 20; k += 8) {  // eight seats a call, in the hand or not
-        for (int s = 1; s <= kSeats; ++s) test::SetHole(g, s, rows[(k + s - 1) % 20].first);
+        for (int s = 1; s <= kSeats; ++s) test::SetHole(g, s, classes[(k + s - 1) % 20].first);
         g.SeatInHand[3] = true;
         g.ClassifyHoleCards();
         for (int s = 1; s <= kSeats; ++s)
-            EXPECT_EQ(g.StartingHandClass[s], rows[(k + s - 1) % 20].second) << rows[(k + s - 1) % 20].first;
+            EXPECT_EQ(g.StartingHandClass[s], classes[(k + s - 1) % 20].second)
+                << classes[(k + s - 1) % 20].first;
     }
-}
-
-TEST(Opponent, RateHandBeforeTheFlopByClass) {
-    ScriptedPlatform p;
-    Game g(p);
-    g.CardsKnown = 2;
-    g.SeatHandCode[6] = 1;  // the made hand plays no part before the flop
-    const int want[9][2] = {{10, 0}, {90, 25}, {75, 20}, {65, 10}, {55, 5},
-                            {50, 5}, {40, 5},  {30, 0},  {10, 0}};
+    g.CardsKnown = 2, g.SeatHandCode[3] = 1;  // the made hand plays no part before the flop
+    const int before[9][2] = {{10, 0}, {90, 25}, {75, 20}, {65, 10}, {55, 5},
+                              {50, 5}, {40, 5},  {30, 0},  {10, 0}};
     for (int cls = 1; cls <= 8; ++cls) {
-        g.StartingHandClass[6] = static_cast<int16_t>(cls);
-        g.RateHand(6);
-        EXPECT_EQ(g.CallChance * 1000 + g.RaiseChance, want[cls][0] * 1000 + want[cls][1]) << cls;
+        g.StartingHandClass[3] = static_cast<int16_t>(cls);
+        g.RateHand(3);
+        EXPECT_EQ(g.CallChance * 1000 + g.RaiseChance, before[cls][0] * 1000 + before[cls][1]) << cls;
     }
-}
-
-// After the flop: the code's row, and for groups the hole cards of its ranks.
-TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
     const std::tuple<int, const char*, int, int> rows[] = {
         {1, "2s3d", 100, 75},  {27, "2s3d", 100, 75}, {28, "2s3d", 95, 60},  {31, "2s3d", 95, 60},
         {32, "2s3d", 90, 50},  {36, "2s3d", 90, 50},  {37, "2s3d", 80, 40},  {37, "AsKs", 80, 40},
@@ -59,8 +44,6 @@ TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
         {151, "3hAd", 40, 10}, {152, "2s3d", 70, 20}, {153, "2s3d", 65, 15}, {154, "2s3d", 50, 10},
         {162, "2s3d", 50, 10}, {163, "2s3d", 10, 0},  {199, "AsAd", 10, 0},  {200, "2s3d", 10, 0},
     };
-    ScriptedPlatform p;
-    Game g(p);
     g.CardsKnown = 6;
     auto rate = [&g](int code, const std::string& hole) {
         test::SetHole(g, 3, hole);
@@ -71,8 +54,7 @@ TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
     for (auto [code, hole, call, raise] : rows)
         EXPECT_EQ(rate(code, hole), std::to_string(call) + "/" + std::to_string(raise))
             << code << " " << hole;
-    // Each two-pair code by its two ranks: one hole card of either gives h 1,
-    // both give 2, a rank of neither 0.
+    // Each two-pair code: a hole card of either rank gives h 1, both give 2, neither 0.
     const char* faces = "23456789TJQKA";
     int code = 61;
     for (int high = 12; high >= 1; --high)
@@ -88,10 +70,8 @@ TEST(Opponent, RateHandAfterTheFlopByCodeAndHoleCards) {
         }
 }
 
-// Seat 5 moves; seat 3 holds the high bet when there is one. Draws are the
-// percentages 100 * r; x draws Round(9r + 1) before the flop and
-// Round(19r + 1) after it, each chosen so that a scale one off, a floor or
-// the other rounding gives another amount.
+// Seat 5 moves, seat 3 holds any high bet. Draws are the percentages 100 * r; x draws Round(9r + 1) before
+// the flop, Round(19r + 1) after it, chosen so that a scale one off, a floor or the other rounding tells.
 // clang-format off
 struct Move { int street; bool background; int16_t call, raise; int32_t bank, stake, high; bool raised; std::vector<float> draws;
               const char* words; int32_t stakeAfter, highAfter; int highIndexAfter; bool raisedAfter, inHandAfter; };

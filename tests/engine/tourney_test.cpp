@@ -1,25 +1,13 @@
-// The tournament around the shown table: a background hand's one-pot
-// settlement, the balancing of the tables, the tournament figures, playing
-// out the field and hurrying a hand.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <sstream>
-#include <string>
-#include <vector>
-
+// The tournament around the shown table: background pots, balancing, figures and hurrying a hand.
 #include "engine/autoplay.h"
 #include "engine/end_of_hand.h"
 #include "engine/play_out.h"
 #include "tests/support/builders.h"
-#include "tests/support/scripted_platform.h"
 
 namespace holdem {
 namespace {
 
-// Settles table 3 with the stakes ("2:3000+2000:120": SeatTotalBet, SeatBet,
-// code, or "-" for a folded seat) and tells what each seat gained.
+// Settles table 3 ("2:3000+2000:120": SeatTotalBet, SeatBet, code or "-" folded); tells each gain.
 std::string SettleBackground(const std::string& stakes, int32_t potExtra = 0) {
     test::ScriptedPlatform p;
     Game g(p);
@@ -80,9 +68,7 @@ TEST(Background, OnePotToTheLowestCode) {
     }
 }
 
-// A field of 80 laid out by a seat map, tables apart by spaces: 'x' a player
-// with chips, '.' a busted record. Record number = position before, so where
-// records went can be read back; the tags mark positions.
+// A field of 80 by a seat map, tables apart by spaces: 'x' has chips, '.' is out; number = position before.
 void SeatField(Game& g, const std::string& map, int size) {
     g.TournamentSize = static_cast<int16_t>(size);
     std::string seats;
@@ -122,12 +108,8 @@ void ExpectPermutation(const Game& g, int size) {
 }
 
 TEST(Balance, Outcomes) {
-    struct Row {
-        const char* before;
-        const char* outcome;
-        std::vector<std::pair<int, int>> at = {};  // position, record number found there
-    } rows[] = {
-        // clang-format off
+    // clang-format off
+    struct Row { const char* before; const char* outcome; std::vector<std::pair<int, int>> at = {}; /* position, record found there */ } rows[] = {
         {"xxxxxxxx xxxxxxxx xxxxxxxx", "8 8 8 Good Luck!"}, {"xxxxxxxx xxxxxx..", "8 6 Good Luck!"},
         {"xxxxxx.. xxxxx... xxxxx...", "6 5 5 Good Luck!"},  // 16 would fit on two tables
         {"xxxxx... xxxxx...", "5 5 Good Luck!"}, {"xxxxxx.. xxxxx...", "6 5 Good Luck!"},
@@ -152,8 +134,8 @@ TEST(Balance, Outcomes) {
         // Nine on two tables shuttle for all 100 passes; 3,3,3 ends there too.
         {"xxxxx... xxxx....", "5 4 Good Luck!"}, {"xxxx.... xxxxx...", "4 5 Good Luck!"},
         {"xxxxxx.. xxx.....", "4 5 Good Luck!"}, {"xxx..... xxx..... xxx.....", "5 4 0 TWOMOVED Good Luck!"},
-        // clang-format on
     };
+    // clang-format on
     for (const Row& r : rows) {
         SCOPED_TRACE(r.before);
         for (bool sound : {true, false}) {
@@ -180,83 +162,21 @@ TEST(Balance, Outcomes) {
             for (auto [pos, number] : r.at) EXPECT_EQ(g.RosterNumber[pos], number) << "at " << pos;
         }
     }
-}
-
-TEST(Balance, SingleTablesWideAndThinFields) {
     test::ScriptedPlatform p;
     Game g(p);
     SeatField(g, "xxx.....", 8);
     g.PlayersLeft = 99;
     g.BalanceTables();
     EXPECT_EQ(g.PlayersLeft, 99);  // a single-table game is not counted here
-
-    std::vector<int> counts(125, 8);
-    counts[1] = counts[2] = 5;  // tables 2 and 3
-    counts[124] = 7;            // table 124 becomes the fullest at step 2, so table 2 misses its turn
-    std::string map;
-    for (int c : counts) map += std::string(c, 'x') + std::string(kSeats - c, '.') + " ";
-    SeatField(g, map, 1000);
-    g.BalanceTables();
-    EXPECT_EQ(g.RosterNumber[RosterPosition(3, 6)], RosterPosition(124, 1));
-    EXPECT_EQ(g.RosterNumber[RosterPosition(2, 6)], RosterPosition(123, 1));
-    counts[1] = counts[2] = 6;
-    counts[122] = counts[123] = 7;
-    EXPECT_EQ(TableCounts(g, 125), counts);
-    EXPECT_EQ(g.TablesInPlay * 10000 + g.PlayersLeft, 125 * 10000 + 993);
-    ExpectPermutation(g, 1000);
 }
 
-// Stopped once and played on: the field ends with places 1..N, each once.
-void CheckPlayOut(Game& g, int players) {
-    g.view.logging = true;
-    const int userPlace = g.UserFinishPlace;
-    int rounds = 0;
-    PlayOutReport stopped = PlayOutField(g, [&](int) { return ++rounds < 2; });
-    EXPECT_FALSE(stopped.finished);
-    EXPECT_TRUE(CanPlayOutField(g)) << "a stopped field plays on later";
-    PlayOutReport report = PlayOutField(g);
-    ASSERT_TRUE(report.finished);
-    EXPECT_FALSE(CanPlayOutField(g));
-
-    std::vector<Standing> standings = FinalStandings(g);
-    ASSERT_EQ(standings.size(), static_cast<std::size_t>(players));
-    std::vector<int> numbers;
-    for (std::size_t i = 0; i < standings.size(); ++i) {
-        EXPECT_EQ(standings[i].place, static_cast<int>(i) + 1);
-        numbers.push_back(standings[i].number);
-        EXPECT_TRUE(standings[i].number != 1 || standings[i].place == userPlace);
-    }
-    std::sort(numbers.begin(), numbers.end());
-    for (int i = 0; i < players; ++i) EXPECT_EQ(numbers[i], i + 1);
-    EXPECT_EQ(g.RosterBank[report.winnerPosition], players * 10000);
-    ASSERT_FALSE(g.view.log.empty());
-    EXPECT_EQ(FormatLogLine(g.view.log.back()),
-              standings.front().name + (players > 8 ? " wins the tournament" : " wins the game"));
-}
-
-TEST(PlayOut, FieldEndsWithOneWinnerAndEveryPlaceOnce) {
-    for (int players : {8, 80, 200, 1000}) {
-        SCOPED_TRACE(players);
-        bool playedOut = false;
-        for (uint64_t seed = 1; seed <= 10 && !playedOut; ++seed) {
-            sim::PlayOneGame(HOLDEM_ASSETS, players, seed, sim::Policy::Folder, nullptr, [&](Game& g) {
-                if (!CanPlayOutField(g)) return;
-                CheckPlayOut(g, players);
-                playedOut = true;
-            });
-        }
-        EXPECT_TRUE(playedOut);
-    }
-}
-
-TEST(TourneyFigures, FromTheRosterAfterARound) {
+// The figures after a round, and the next rise of the blinds by size and blind.
+TEST(TourneyFigures, FromTheRosterAndTheNextRise) {
     test::ScriptedPlatform p;
     Game g(p);
     g.TournamentSize = 80;
-    for (int pos = 1; pos <= 80; ++pos) {
-        g.RosterNumber[pos] = static_cast<int16_t>(pos);
-        g.RosterBank[pos] = pos <= 40 ? 1000 * pos : 0;
-    }
+    for (int pos = 1; pos <= 80; ++pos)
+        g.RosterNumber[pos] = static_cast<int16_t>(pos), g.RosterBank[pos] = pos <= 40 ? 1000 * pos : 0;
     g.RosterBank[1] = 25500;
     g.BalanceTables();
     g.SmallBlind = 400;
@@ -265,12 +185,8 @@ TEST(TourneyFigures, FromTheRosterAfterARound) {
     EXPECT_EQ(std::vector<int64_t>({f.fieldSize, f.playersLeft, f.tablesInPlay, f.smallBlind, f.nextRiseAt,
                                     f.nextSmallBlind, f.userPlace, f.averageStack}),
               std::vector<int64_t>({80, 40, 5, 400, 40, 600, 16, 21113}));
-
     g.RosterBank[1] = 0;
     EXPECT_EQ(ComputeTourneyFigures(g).userPlace, 0);
-}
-
-TEST(TourneyFigures, NextRiseOfTheBlinds) {
     const std::array<int, 4> cases[] = {{1000, 100, 900, 200}, {1000, 25000, 3, 35000}, {1000, 35000, 0, 0},
                                         {200, 1500, 30, 2000}, {80, 4000, 3, 8000},     {8, 600, 2, 1000},
                                         {80, 150, 0, 0}};
@@ -281,27 +197,8 @@ TEST(TourneyFigures, NextRiseOfTheBlinds) {
     }
 }
 
-// What a hand leaves behind, as text, to compare two runs field by field.
-std::vector<std::string> Snapshot(const Game& g, const test::ScriptedPlatform& p) {
-    std::vector<std::string> out = {
-        "draws " + std::to_string(g.rnd.Draws()),         "left " + std::to_string(g.PlayersLeft),
-        "tables " + std::to_string(g.TablesInPlay),       "blind " + std::to_string(g.SmallBlind),
-        "deal " + std::to_string(g.view.cmdDeal.visible), "pauses " + std::to_string(p.pauses)};
-    for (int pos = 1; pos <= g.TournamentSize; ++pos)
-        out.push_back(std::to_string(pos) + ": " + g.RosterName[pos] + " " +
-                      std::to_string(g.RosterBank[pos]) + " " + std::to_string(g.RosterPlace[pos]));
-    for (int s = 1; s <= kSeats; ++s)
-        out.push_back(g.view.lblBet[s].text + "|" + g.view.lblPaid[s].text + "|" + g.view.lblBank[s].text +
-                      "|" + std::to_string(g.view.icard[s].visible) +
-                      std::to_string(g.view.iArrow[s].visible));
-    for (const std::string& sound : p.sounds) out.push_back(sound);
-    for (const LogLine& line : g.view.log) out.push_back(FormatLogLine(line));
-    return out;
-}
-
-// The user folds at the first turn; the rest of the hand runs tick by tick
-// as the window's timers would fire it, or all at once by FinishHand.
-std::vector<std::string> FoldAndFinish(int players, uint64_t seed, bool hurry) {
+// The user folds at once; the rest of the hand runs tick by tick, or all at once by FinishHand.
+std::string FoldAndFinish(int players, uint64_t seed, bool hurry) {
     test::ScriptedPlatform p;
     Game g(p);
     g.AppFolder = HOLDEM_ASSETS;
@@ -312,7 +209,10 @@ std::vector<std::string> FoldAndFinish(int players, uint64_t seed, bool hurry) {
     EXPECT_EQ(CanFinishHand(g), g.RunningTimer() != kTimerCount);
     hurry ? void(FinishHand(g)) : test::RunTimers(g);
     EXPECT_FALSE(CanFinishHand(g));
-    return Snapshot(g, p);
+    std::string out = test::StateText(g) + " draws " + std::to_string(g.rnd.Draws()) + " pauses " +
+                      std::to_string(p.pauses);
+    for (const std::string& sound : p.sounds) out += " " + sound;
+    return out;
 }
 
 TEST(FinishHand, SameOutcomeAndDrawsAsTheTimers) {

@@ -1,19 +1,122 @@
-// LoadRoster, SaveGame, the File menu's New, Open, Save and Save As, and the
-// plain functions behind frmNewGame.
-#include <gtest/gtest.h>
+// The text format and the shipped data; LoadRoster, SaveGame, New, Open, Save, Save As, new-game choices.
+#include <cstring>
+#include <set>
 
 #include "files/new_game.h"
+#include "files/seq_text.h"
 #include "tests/files/files_test_util.h"
 
 namespace holdem::test {
 namespace {
 
-const char* const kNotOpened = "Saved game not opened.";
+// One item a letter (h 16-bit, l 32-bit, b flag, s string), '|' between; "!" and the reason on a FileError.
+std::string Items(SeqReader& in, const std::string& kinds) {
+    std::string out;
+    try {
+        for (char k : kinds)
+            out += (out.empty() ? "" : "|") + (k == 'h'   ? std::to_string(in.ReadInt16())
+                                               : k == 'l' ? std::to_string(in.ReadInt32())
+                                               : k == 'b' ? std::string(in.ReadBool() ? "T" : "F")
+                                                          : in.ReadString());
+    } catch (const FileError& e) {
+        out += (out.empty() ? "!" : "|!") + std::string(e.what());
+    }
+    return out;
+}
+
+TEST(SeqTextTest, ReaderTakesItemsByPosition) {
+    // "!n:" is short for a failure on line 1 at item n.
+    // clang-format off
+    const std::tuple<std::vector<const char*>, const char*, const char*> cases[] = {
+        {{"  12,\"a, b\" ,#TRUE#\r\n-7,  bare text  ,#false#\n\n\"\",+5\r3"}, "hsbhsbshh", "12|a, b|T|-7|bare text|F||5|3"},
+        {{"32767,-32768,2147483647,-2147483648"}, "hhll", "32767|-32768|2147483647|-2147483648"},
+        {{"1,2"}, "hhh", "1|2|!3: the file ends before this item."}, {{"1\r\n\r\n   \r\n"}, "hh", "1|!Line 4, item 1: the file ends before this item."},
+        {{"32768", "-32769"}, "h", "!1: the number is outside -32768 to 32767."},
+        {{"2147483648", "-2147483649", "99999999999999999999"}, "l", "!1: the number is outside -2147483648 to 2147483647."},
+        {{"1\n12x"}, "hh", "1|!Line 2, item 1: a whole number is expected."}, {{"\"12\"", "1.5", "--1"}, "h", "!1: a whole number is expected."},
+        {{","}, "l", "!1: a whole number is expected."}, {{"TRUE", "xTRUE#", "\"#TRUE#\""}, "b", "!1: #TRUE# or #FALSE# is expected."},
+        {{"\"open", "\"open\r\n\""}, "s", "!1: a quoted text is not closed on its line."}, {{"\"a\"b,"}, "s", "!1: text follows the closing quote."},
+    };
+    // clang-format on
+    for (const auto& [texts, kinds, expected] : cases) {
+        std::string items = expected;
+        if (const auto at = items.find("!"); at != std::string::npos && items[at + 2] == ':')
+            items.replace(at + 1, 1, "Line 1, item " + items.substr(at + 1, 1));
+        for (const char* text : texts) {
+            SCOPED_TRACE(text);
+            auto in = SeqReader::FromText(text);
+            EXPECT_EQ(Items(in, kinds), items);
+        }
+    }
+    auto rest = SeqReader::FromText("1 ,\r\n x \r\n \t");
+    EXPECT_EQ(Items(rest, "h"), "1");
+    EXPECT_FALSE(rest.AtEnd());
+    EXPECT_EQ(Items(rest, "s"), "x");
+    EXPECT_TRUE(rest.AtEnd());
+    EXPECT_THROW(SeqReader("/no/such/folder/file.dat"), FileError);
+    EXPECT_THROW(SeqReader(""), FileError);
+}
+
+TEST(SeqTextTest, WriterRoundTripsAndReplacesTheFileWholeOrNotAtAll) {
+    TempFolder dir;
+    const std::string path = dir.File("round.dat");
+    WriteAll(path, "old\r\n");
+    SeqWriter out(path);
+    out.Int(-32768).Str("Smith, John").Int(2147483647).Bool(true).EndLine();
+    out.Str("  padded  ").Bool(false).Str("").EndLine().Commit();
+    EXPECT_EQ(ReadAll(path), "-32768,\"Smith, John\",2147483647,#TRUE#\r\n\"  padded  \",#FALSE#,\"\"\r\n");
+    WriteAll(dir.File("marked.dat"), "\xEF\xBB\xBF" + ReadAll(path));
+    for (const std::string& file : {path, dir.File("marked.dat")}) {
+        SeqReader in(file);
+        EXPECT_EQ(Items(in, "hslbsbs"), "-32768|Smith, John|2147483647|T|  padded  |F|") << file;
+        EXPECT_TRUE(in.AtEnd());
+    }
+    EXPECT_EQ(QuoteSafe("A \"B\"\r\nC"), "A 'B'  C");
+
+    std::filesystem::create_directory(dir.File("folder.dat"));
+    for (const std::string& target : {dir.File("missing/x.dat"), dir.File("folder.dat"), std::string()}) {
+        try {
+            SeqWriter(target).Int(1).EndLine().Commit();
+            ADD_FAILURE() << target;
+        } catch (const FileError& e) {
+            EXPECT_EQ(e.what(), target.empty() ? std::string("No file name was given.")
+                                : target.find("folder") != std::string::npos
+                                    ? "Cannot write " + target + ": it is a folder."
+                                    : "Cannot write " + target + ": " + std::strerror(ENOENT) + ".");
+        }
+    }
+    const auto entries = std::filesystem::directory_iterator(dir.Folder());
+    EXPECT_EQ(std::distance(begin(entries), end(entries)), 3);  // no temporary left behind
+}
+
+// gamedata.dat: 1,000 distinct players, the user first; settings.dft: medium, sound, tips; a tip a line.
+TEST(ShippedDataTest, GameDataSettingsAndTipsAreReadyForANewGame) {
+    SeqReader in(ShippedFile("gamedata.dat"));
+    const std::string header = Items(in, "hhhl");
+    std::set<std::string> names, numbers;
+    for (int p = 1; p <= kRoster; ++p) {
+        const std::string line = Items(in, "hslhh"), number = line.substr(line.rfind('|') + 1);
+        const std::size_t start = line.find('|') + 1, end = line.find("|10000|0|");
+        EXPECT_TRUE(end - start <= 20 && line.find('"') == std::string::npos && (number == "1") == (p == 1))
+            << line;
+        names.insert(line.substr(start, end - start));
+        numbers.insert(number);
+    }
+    const std::string tips = ReadAll(ShippedFile("TIPOFDAY.TXT")),
+                      text = ReadAll(ShippedFile("gamedata.dat"));
+    EXPECT_EQ(
+        std::make_tuple(header.substr(0, 6), in.AtEnd(), names.size(), numbers.size(),
+                        ReadAll(ShippedFile("settings.dft")), std::count(text.begin(), text.end(), '\r'),
+                        std::count(text.begin(), text.end(), '\n'), tips.find("\r\n\r\n"),
+                        tips.substr(tips.size() - 2)),
+        std::make_tuple("1000|0", true, 1000u, 1000u, "2,#TRUE#,#TRUE#\r\n", 1001, 1001, std::string::npos,
+                        "\r\n"));
+}
+
 const char* const kNotSaved = "There was an error saving the game.";
 const float kHalf = 0x1.6db6dcp-2f, kOneAndAHalf = 0x1.b6db6ep-3f;  // times 7: exactly 2.5 and 1.5
 
-// One letter per position, the rest as `rest`: i in, z in with no chips, o out,
-// p placed yet holding chips. Places go out from the size down.
+// A letter a position, the rest `rest`: i in, z no chips, o out, p placed yet holding chips.
 std::string Field(int size, std::string kinds, char rest, int hands = 30, int button = 2, int blind = 1500) {
     kinds.resize(size, rest);
     std::vector<std::string> lines;
@@ -37,17 +140,10 @@ std::vector<Element*> HandElements(View& v) {
     return all;
 }
 
-// The table as a load leaves it: size, hands, button, players left, seat 1's name, blinds, greeting.
-std::string Outcome(const Game& g) {
-    return std::to_string(g.TournamentSize) + " " + std::to_string(g.HandsPlayed) + " " +
-           std::to_string(g.ButtonSeat) + " " + std::to_string(g.NextFinishPlace) + " " + g.SeatName[1] +
-           ", " + g.view.lblBlind.text + ", " + g.view.lblGoodLuck.text;
-}
-
 using RosterTest = FileTest;
 
-// A new game reads gamedata.dat in the size chosen; StartHand moves the button on from the last of the
-// three draws. An opened game keeps its own name for seat 1.
+// A new game reads gamedata.dat at its size, the button moved on from the last of three draws; an opened
+// game keeps its own name for seat 1.
 TEST_F(RosterTest, LoadSetsUpTheTableAndDealsAtOnce) {
     const std::tuple<std::string, std::vector<float>, const char*> cases[] = {
         // saved game, draws, outcome
@@ -78,7 +174,12 @@ TEST_F(RosterTest, LoadSetsUpTheTableAndDealsAtOnce) {
         g2.rnd.Script(LoadDraws(draws));
         g2.LoadRoster();
         ExpectDrawsUsed(g2);
-        EXPECT_EQ(Outcome(g2), outcome);
+        // The table as the load leaves it: size, hands, button, players left, seat 1's name, blinds,
+        // greeting.
+        EXPECT_EQ(std::to_string(g2.TournamentSize) + " " + std::to_string(g2.HandsPlayed) + " " +
+                      std::to_string(g2.ButtonSeat) + " " + std::to_string(g2.NextFinishPlace) + " " +
+                      g2.SeatName[1] + ", " + g2.view.lblBlind.text + ", " + g2.view.lblGoodLuck.text,
+                  outcome);
         const int size = g2.TournamentSize;
         EXPECT_EQ(
             std::make_tuple(g2.RosterName[1], g2.view.lblName[1].text, g2.SeatName[8],
@@ -135,75 +236,19 @@ TEST_F(RosterTest, SaveWritesEveryFieldInItsPlaceAndOpensBackWhole) {
     EXPECT_EQ(p.saveDialogs[1].title + "|" + p2.openDialogs[0].title, "Save Game As|Open Saved Game");
 }
 
-TEST_F(RosterTest, OpenTakesEveryFileWithinTheRangesAndRefusesTheRest) {
-    // A header of size, hands, button, blind over eight players; the last one's line as given.
-    auto game = [](const std::string& header, int bank = 10000, std::string last = "8,\"P8\",10000,0,8") {
-        auto lines = FieldLines(8, bank);
-        lines[7] = last;
-        return header + "\r\n" + RosterText(8, 0, 0, 0, lines).substr(9);
-    };
-    // 16,777,200 chips in all; 2^24 is the most a Single holds exactly.
-    const std::string most = game("8,5,2,100", 2097200, "8,\"P8\",2096800,0,8");
-    std::vector<std::string> opens = {most, game("8,5,2,100", 10000, "8,\"P8\",0,8,8"),
-                                      Field(8, "iioooooo", 'o'), Field(8, "ziiiiiii", 'i'),
-                                      RosterText(1000, 5, 2, 100, FieldLines(1000))};
-    std::vector<std::string> refused = {"",
-                                        most.substr(0, most.size() / 2),
-                                        RosterText(1000, 5, 2, 100, FieldLines(999)),
-                                        RosterText(50, 5, 2, 100, FieldLines(50)),
-                                        game("8,5,2,100", -100),
-                                        game("8,5,2,100", 2097200, "8,\"P8\",2096900,0,8"),
-                                        game("8,5,2,100", 10000, "8,\"P8\",0,9,8"),
-                                        "8,5,2,100\r\n1,\"Open,10000,0,1\r\n",
-                                        "8,5,2,100\r\n1,\"A\",ten,0,1\r\n",
-                                        "8,5,2,100\r\n70000,\"A\",10000,0,1\r\n"};
-    for (const char* header : {"8,5,2,100", "8,32766,1,100", "8,5,8,100"}) opens.push_back(game(header));
-    for (const char* header : {"8,32767,2,100", "8,-1,2,100", "8,5,0,100", "8,5,9,100", "8,5,2,0"})
-        refused.push_back(game(header));
-    for (const std::string& text : opens) {
+// Every file within the ranges opens and deals; those just beyond are refused in the safety tests.
+TEST_F(RosterTest, OpenTakesEveryFileWithinTheRanges) {
+    for (const std::string& text :
+         {kMostChips, EightPlayers("8,5,2,100", 10000, "8,\"P8\",0,8,8"), Field(8, "iioooooo", 'o'),
+          Field(8, "ziiiiiii", 'i'), Field(8, "iooooooi", 'o'), Field(8, "piiiiiii", 'i'),
+          RosterText(1000, 5, 2, 100, FieldLines(1000)), EightPlayers("8,5,2,100"),
+          EightPlayers("8,32766,1,100"), EightPlayers("8,5,8,100")}) {
         SCOPED_TRACE(text.substr(0, 60));
         Open(text, LoadDraws());
         EXPECT_EQ(std::make_pair(p.messages.size(), g.RunningTimer()),
                   std::make_pair(std::size_t{0}, TimerDealHole));
         ExpectDrawsUsed(g);
     }
-    for (const std::string& text : refused) {
-        SCOPED_TRACE(text.substr(0, 60));
-        Open(text, {});
-        ExpectMessage(kNotOpened, "Game Not Saved");
-        EXPECT_EQ(g.rnd.Overdrawn(), 0);
-    }
-    p.openPaths.push_back(dir.File("missing.sgf"));
-    g.mnuOpen_Click();
-    ExpectMessage(kNotOpened, "Game Not Saved");
-}
-
-TEST_F(RosterTest, CancelsAndFailedSavesTellTheUserAndKeepThePathAndTheFlag) {
-    Open(RosterText(8, 5, 2, 100, FieldLines(8)), LoadDraws());
-    g.StopHandTimers();
-    g.EnableTimer(TimerBetFlop);
-    g.GameUnsaved = true;
-    std::filesystem::create_directory(dir.File("taken.sgf"));
-    const std::tuple<void (Game::*)(), const char*, const char*> cases[] = {
-        // path before ("" none), message
-        {&Game::mnuOpen_Click, "else.sgf", kNotOpened},
-        {&Game::mnuSave_Click, "", kNotSaved},
-        {&Game::mnuSaveAs_Click, "kept.sgf", kNotSaved},
-        {&Game::SaveGame, "no-such-folder/game.sgf", kNotSaved},
-        {&Game::mnuSave_Click, "taken.sgf", kNotSaved}};
-    for (const auto& [action, path, message] : cases) {
-        SCOPED_TRACE(path);
-        g.SavedGamePath = *path ? dir.File(path) : "";
-        (g.*action)();
-        ExpectMessage(message, "Game Not Saved");
-        EXPECT_EQ(std::make_tuple(g.SavedGamePath, g.GameUnsaved, int{g.HandsPlayed}, g.RosterName[2],
-                                  g.RunningTimer()),
-                  std::make_tuple(*path ? dir.File(path) : "", true, 6, "Player No. 2", TimerBetFlop));
-    }
-    EXPECT_TRUE(!std::filesystem::exists(dir.File("kept.sgf")) &&
-                std::filesystem::is_directory(dir.File("taken.sgf")));
-    EXPECT_EQ(std::make_pair(p.openDialogs.back().folder, p.saveDialogs.size()),
-              std::make_pair(dir.Folder(), std::size_t{2}));
 }
 
 TEST_F(RosterTest, FinishedGameOpensToItsFinalStateAndDealsNothing) {
@@ -264,14 +309,8 @@ protected:
 TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
     using A = MsgAnswer;
     const char *const kStart = "Start New Game?", *const kSave = "Save Existing Game?";
-    const struct {
-        int hands;
-        bool unsaved, ended, named;
-        std::vector<MsgAnswer> answers;
-        bool cancelDialog;
-        std::vector<std::string> messages;
-        bool started, saved;
-    } cases[] = {
+    // clang-format off
+    const struct { int hands; bool unsaved, ended, named; std::vector<MsgAnswer> answers; bool cancelDialog; std::vector<std::string> messages; bool started, saved; } cases[] = {
         {1, true, false, true, {A::No}, false, {kStart}, false, false},
         {7, true, false, true, {A::Cancel}, false, {kStart}, false, false},
         {7, true, false, true, {A::Yes, A::No}, true, {kStart, kSave}, false, false},
@@ -280,6 +319,7 @@ TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
         {7, true, false, false, {A::Yes, A::Yes}, false, {kStart, kSave, kNotSaved}, true, false},
         {7, true, true, true, {}, false, {}, true, false},
     };
+    // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message()
                      << c.unsaved << c.ended << c.named << " answers " << c.answers.size());

@@ -1,11 +1,9 @@
-// What the player keeps when a file fails: the game in play after a refused open or new game,
-// the old file after a failed save (and no temporary file), and memory before a huge file.
+// What a failed file leaves: the game in play, the old file and no temporary one, memory before a huge file.
 #include <sys/stat.h>
 
 #include <cerrno>
 #include <cstring>
 #include <random>
-#include <sstream>
 
 #include "files/safe_file.h"
 #include "tests/files/files_test_util.h"
@@ -15,38 +13,11 @@
 namespace holdem::test {
 namespace {
 
-// Everything of a game that a failed open or save must leave alone.
-std::string Snapshot(const Game& g) {
-    std::ostringstream out;
-    out << g.TournamentSize << ',' << g.HandsPlayed << ',' << g.ButtonSeat << ',' << g.SmallBlind << ','
-        << g.PlayersLeft << ',' << g.TablesInPlay << g.GameUnsaved << g.GameEnded << g.SavedGamePath << '\n';
-    for (int p = 1; p <= kRoster; ++p)
-        out << g.RosterName[p] << g.RosterBank[p] << ',' << g.RosterPlace[p] << ',' << g.RosterNumber[p]
-            << '\n';
-    for (int s = 1; s <= kSeats; ++s)
-        out << g.SeatName[s] << g.SeatBank[s] << g.SeatBet[s] << g.SeatInHand[s];
-    const View& v = g.view;
-    std::vector<const Element*> all = {&v.mnuSave,  &v.mnuSaveAs,   &v.mnuMediumSpeed, &v.cmdDeal,
-                                       &v.lblBlind, &v.lblGoodLuck, &v.lblPot,         &v.picTableMoney};
-    for (const auto* group : {&v.lblName, &v.lblBank, &v.lblBet, &v.iButton})
-        for (const Element& e : *group) all.push_back(&e);
-    for (const Element& e : v.icard) all.push_back(&e);
-    for (const Element& e : v.cmdPlay) all.push_back(&e);
-    for (const Element* e : all)
-        out << e->text << '|' << e->visible << e->enabled << e->checked << e->picture;
-    for (const TimerState& t : v.timer) out << t.enabled << t.interval;
-    return out.str();
-}
-
 // Fires timers and folds (or checks) at the user's turn until the hand is over.
 void FinishHand(Game& g) {
-    for (int step = 0; step < 2000 && (g.RunningTimer() != kTimerCount || g.view.cmdPlay[1].visible);
-         ++step) {
-        if (g.RunningTimer() != kTimerCount)
-            g.FireTimer(g.RunningTimer());
-        else
-            g.cmdPlay_Click(g.view.cmdPlay[1].enabled ? 1 : 4);
-    }
+    for (int step = 0; step < 2000 && (g.RunningTimer() != kTimerCount || g.view.cmdPlay[1].visible); ++step)
+        g.RunningTimer() != kTimerCount ? g.FireTimer(g.RunningTimer())
+                                        : g.cmdPlay_Click(g.view.cmdPlay[1].enabled ? 1 : 4);
     ASSERT_TRUE(g.view.cmdDeal.visible || g.GameEnded);
 }
 
@@ -66,52 +37,66 @@ TEST_F(SafetyTest, RefusedOpenOrNewGameLeavesTheGameInPlayAsItWas) {
 
     const std::string path = dir.File("game.sgf");
     lines = FieldLines(80);
-    const std::string big = RosterText(80, 3, 1, 100, lines) + std::string(kMaxRosterFileBytes, ' ');
-    const std::string shortFile = RosterText(80, 3, 1, 100, {lines.begin(), lines.begin() + 5});
-    lines[3] = PlayerLine(4, "Odd", 10050, 0, 4);
+    auto odd = lines;
+    odd[3] = PlayerLine(4, "Odd", 10050, 0, 4);
+    // Each file just beyond a range and the reason given under the message; "-" opens a missing file.
+    // clang-format off
     const std::pair<std::string, std::string> cases[] = {
-        {shortFile, "Line 7, item 1: the file ends before this item."},
-        {RosterText(80, 3, 1, 100, lines), "Line 5: a player's chips are not a whole number of hundreds."},
-        {RosterText(8, 3, 1, 150, FieldLines(8)),
-         "Line 1: the small blind is not a whole number of hundreds."},
+        {RosterText(80, 3, 1, 100, {lines.begin(), lines.begin() + 5}), "Line 7, item 1: the file ends before this item."},
+        {RosterText(80, 3, 1, 100, odd), "Line 5: a player's chips are not a whole number of hundreds."},
+        {RosterText(8, 3, 1, 150, FieldLines(8)), "Line 1: the small blind is not a whole number of hundreds."},
         {"8,3,1,100\r\n1,\"A\",lots,0,1\r\n", "Line 2, item 3: a whole number is expected."},
-        {big, "Cannot read " + path + ": the file is larger than 1 MB."},
-    };
+        {RosterText(80, 3, 1, 100, lines) + std::string(kMaxRosterFileBytes, ' '), "Cannot read " + path + ": the file is larger than 1 MB."},
+        {"", "Line 1, item 1: the file ends before this item."}, {"-", "Cannot read " + path + ": " + std::strerror(ENOENT) + "."},
+        {kMostChips.substr(0, kMostChips.size() / 2), "Line 5, item 4: the file ends before this item."},
+        {RosterText(1000, 5, 2, 100, FieldLines(999)), "Line 1001, item 1: the file ends before this item."},
+        {RosterText(50, 5, 2, 100, FieldLines(50)), "Line 1: the size of the game is not 8, 80, 200 or 1000."},
+        {EightPlayers("8,5,2,100", -100), "Line 2: a player's chips are below zero."},
+        {EightPlayers("8,5,2,100", 2097200, "8,\"P8\",2096900,0,8"), "Line 9: the chips of the game add up to more than it can hold."},
+        {EightPlayers("8,5,2,100", 10000, "8,\"P8\",0,9,8"), "Line 9: a place is beyond the size of the game."},
+        {"8,5,2,100\r\n1,\"Open,10000,0,1\r\n", "Line 2, item 2: a quoted text is not closed on its line."},
+        {"8,5,2,100\r\n70000,\"A\",10000,0,1\r\n", "Line 2, item 1: the number is outside -32768 to 32767."},
+        {EightPlayers("8,32767,2,100"), "Line 1: the count of hands is out of range."}, {EightPlayers("8,-1,2,100"), "Line 1: the count of hands is out of range."},
+        {EightPlayers("8,5,0,100"), "Line 1: the button is not at a seat from 1 to 8."}, {EightPlayers("8,5,9,100"), "Line 1: the button is not at a seat from 1 to 8."},
+        {EightPlayers("8,5,2,0"), "Line 1: the small blind is out of range."}};
+    // clang-format on
     for (bool midHand : {false, true}) {
         if (midHand) g.cmdDeal_Click();
         for (const auto& [text, reason] : cases) {
-            SCOPED_TRACE(reason);
-            const std::string before = Snapshot(g);
-            Open(text, {});
+            SCOPED_TRACE(text.substr(0, 60));
+            const std::string before = StateText(g);
+            std::filesystem::remove(path);
+            text == "-" ? (p.openPaths.push_back(path), g.rnd.Script({}), g.mnuOpen_Click()) : Open(text, {});
             ASSERT_EQ(p.messages.size(), 1u);
-            EXPECT_EQ(std::tie(p.messages[0].text, p.messages[0].title),
-                      std::make_tuple("Saved game not opened.\n" + reason, "Game Not Saved"));
+            const MessageCall& m = p.messages[0];
+            EXPECT_EQ(std::tie(m.text, m.title, m.icon, m.buttons),
+                      std::make_tuple("Saved game not opened.\n" + reason, "Game Not Saved",
+                                      MsgIcon::Exclamation, MsgButtons::OK));
             p.messages.clear();
-            EXPECT_EQ(Snapshot(g), before);
+            EXPECT_EQ(g.rnd.Overdrawn(), 0);
+            EXPECT_EQ(StateText(g), before);
         }
     }
     // A new game whose players cannot be read (none, too few, no chips): asked, refused, and play goes on.
     const std::pair<std::string, std::string> games[] = {
-        {"", ""},
-        {RosterText(1000, 0, 1, 100, FieldLines(50)), "\nLine 52, item 1: the file ends before this item.\n"},
-        {RosterText(1000, 0, 1, 100, FieldLines(1000, 0)), ""}};
+        {"", "\nCannot read " + dir.File("gamedata.dat") + ": " + std::strerror(ENOENT) + "."},
+        {RosterText(1000, 0, 1, 100, FieldLines(50)), "\nLine 52, item 1: the file ends before this item."},
+        {RosterText(1000, 0, 1, 100, FieldLines(1000, 0)), "\nIt holds no field to play."}};
     for (const auto& [text, reason] : games) {
         SCOPED_TRACE(text.size());
         std::filesystem::remove(dir.File("gamedata.dat"));
         if (!text.empty()) WriteAll(dir.File("gamedata.dat"), text);
         p.answers = {MsgAnswer::Yes, MsgAnswer::No};
         p.newGames.push_back({false, "Tournament", "80", "Slow"});
-        const std::string before = Snapshot(g);
+        const std::string before = StateText(g);
         g.mnuNew_Click();
         ASSERT_EQ(p.messages.size(), 3u);
         const MessageCall& m = p.messages[2];
-        EXPECT_EQ(
-            std::make_tuple(m.text.substr(0, 65 + dir.Folder().size()), m.title, m.icon, m.text.find(reason)),
-            std::make_tuple(
-                "The players of a new game could not be read from gamedata.dat in\n" + dir.Folder(),
-                "Game Not Started", MsgIcon::Exclamation,
-                reason.empty() ? 0 : m.text.find('\n', 65 + dir.Folder().size())));
-        EXPECT_TRUE(Snapshot(g) == before && p.playerNameCalls == 0);
+        EXPECT_EQ(std::tie(m.text, m.title, m.icon),
+                  std::make_tuple("The players of a new game could not be read from gamedata.dat in\n" +
+                                      dir.Folder() + reason + "\n\nReinstalling the game restores the file.",
+                                  "Game Not Started", MsgIcon::Exclamation));
+        EXPECT_TRUE(StateText(g) == before && p.playerNameCalls == 0);
         p.messages.clear();
     }
     // The hand goes on, and Save writes to the game's own file without asking.
@@ -121,8 +106,7 @@ TEST_F(SafetyTest, RefusedOpenOrNewGameLeavesTheGameInPlayAsItWas) {
     EXPECT_TRUE(p.messages.empty() && p.saveDialogs.empty() && !g.GameUnsaved);
     EXPECT_EQ(ReadAll(dir.File("start.sgf")).substr(0, 6), "80,14,");
 
-    // Amounts in hundreds open, though a settlement that reported a shortfall
-    // has left the field with fewer chips than it started with.
+    // Amounts in hundreds open though the field holds fewer chips, as after a settlement's shortfall.
     lines[3] = PlayerLine(4, "Short", 9700, 0, 4);
     Open(RosterText(80, 5, 2, 600, lines), LoadDraws());
     EXPECT_TRUE(p.messages.empty());
@@ -146,31 +130,55 @@ const SaveCalls kInjecting{
     [](const char* a, const char* b) { return Injected("rename") ? -1 : gReal.rename(a, b); },
 };
 
-TEST_F(SafetyTest, FailedSaveKeepsTheOldFileAndTheFlagAndLeavesNoTemporaryFile) {
-    // The call that fails, which call of its kind, the error; the folder's sync comes after the rename.
-    const std::tuple<const char*, int, int, bool> cases[] = {
-        {"open", 1, EACCES, false},  {"write", 1, ENOSPC, false}, {"fsync", 1, EIO, false},
-        {"close", 1, EDQUOT, false}, {"rename", 1, EXDEV, false}, {"fsync", 2, EIO, true},
-    };
-    FillRoster(g, 8);
-    g.SavedGamePath = dir.File("kept.sgf");
+// A cancelled dialog or a failed save keeps the path, flag, hand and old file, and leaves no temporary file.
+// Each case: the action, the path before ("" none), the call that fails, its turn and error, the message.
+TEST_F(SafetyTest, CancelsAndFailedSavesKeepThePathTheFlagAndTheOldFile) {
+    Open(RosterText(8, 5, 2, 100, FieldLines(8)), LoadDraws());
+    g.StopHandTimers();
+    g.EnableTimer(TimerBetFlop);
+    std::filesystem::create_directory(dir.File("taken.sgf"));
+    const std::string failed = "There was an error saving the game.\n",
+                      cannot = failed + "Cannot write " + dir.File("kept.sgf") + ": ";
+    // clang-format off
+    const std::tuple<void (Game::*)(), const char*, const char*, int, int, std::string> cases[] = {
+        {&Game::mnuOpen_Click, "else.sgf", "", 0, 0, "Saved game not opened."},
+        {&Game::mnuSave_Click, "", "", 0, 0, "There was an error saving the game."}, {&Game::SaveGame, "", "", 0, 0, "There was an error saving the game."},
+        {&Game::mnuSaveAs_Click, "kept.sgf", "", 0, 0, "There was an error saving the game."},
+        {&Game::SaveGame, "no-such-folder/game.sgf", "", 0, 0, failed + "Cannot write " + dir.File("no-such-folder/game.sgf") + ": " + std::strerror(ENOENT) + "."},
+        {&Game::mnuSave_Click, "taken.sgf", "", 0, 0, failed + "Cannot write " + dir.File("taken.sgf") + ": it is a folder."},
+        {&Game::SaveGame, "kept.sgf", "open", 1, EACCES, cannot + std::strerror(EACCES) + "."},
+        {&Game::SaveGame, "kept.sgf", "write", 1, ENOSPC, cannot + std::strerror(ENOSPC) + "."},
+        {&Game::SaveGame, "kept.sgf", "fsync", 1, EIO, cannot + std::strerror(EIO) + "."},
+        {&Game::SaveGame, "kept.sgf", "close", 1, EDQUOT, cannot + std::strerror(EDQUOT) + "."},
+        {&Game::SaveGame, "kept.sgf", "rename", 1, EXDEV, cannot + std::strerror(EXDEV) + "."},
+        // The folder's sync comes after the rename: the file is new, the flag stays.
+        {&Game::SaveGame, "kept.sgf", "fsync", 2, EIO, cannot + std::strerror(EIO) + "."}};
+    // clang-format on
     gReal = SystemSaveCalls();
-    for (const auto& [call, nth, error, replaced] : cases) {
-        SCOPED_TRACE(std::string(call) + " " + std::to_string(nth));
-        WriteAll(g.SavedGamePath, "old\r\n");
+    for (const auto& [action, path, call, nth, error, message] : cases) {
+        SCOPED_TRACE(std::string(path) + " " + call);
+        WriteAll(dir.File("kept.sgf"), "old\r\n");
+        g.SavedGamePath = *path ? dir.File(path) : "";
         g.GameUnsaved = true;
         std::tie(gFailing, gCountdown, gError) = std::make_tuple(call, nth, error);
         SystemSaveCalls() = kInjecting;
-        g.SaveGame();
+        (g.*action)();
         SystemSaveCalls() = gReal;
-        EXPECT_EQ(p.messages.at(0).text, "There was an error saving the game.\nCannot write " +
-                                             g.SavedGamePath + ": " + std::strerror(error) + ".");
+        ASSERT_EQ(p.messages.size(), 1u);
+        const MessageCall& m = p.messages[0];
+        EXPECT_EQ(std::tie(m.text, m.title, m.icon, m.buttons),
+                  std::make_tuple(message, "Game Not Saved", MsgIcon::Exclamation, MsgButtons::OK));
         p.messages.clear();
-        EXPECT_TRUE(g.GameUnsaved);
-        EXPECT_EQ(ReadAll(g.SavedGamePath).substr(0, 9), replaced ? "8,0,0,0\r\n" : "old\r\n");
+        EXPECT_EQ(std::make_tuple(g.SavedGamePath, g.GameUnsaved, int{g.HandsPlayed}, g.RosterName[2],
+                                  g.RunningTimer(), ReadAll(dir.File("kept.sgf")).substr(0, 4)),
+                  std::make_tuple(*path ? dir.File(path) : "", true, 6, "Player No. 2", TimerBetFlop,
+                                  nth == 2 ? "8,6," : "old\r"));
         const auto entries = std::filesystem::directory_iterator(dir.Folder());
-        EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);  // no temporary file
+        EXPECT_EQ(std::distance(begin(entries), end(entries)),
+                  3);  // game.sgf, kept.sgf, taken.sgf: no temporary
     }
+    EXPECT_EQ(std::make_pair(p.openDialogs.back().folder, p.saveDialogs.size()),
+              std::make_pair(dir.Folder(), std::size_t{3}));
     // What a killed save left goes at the next save; a read-only file is not replaced.
     const std::string leftover = TemporaryPathFor(g.SavedGamePath);
     WriteAll(leftover, "half a save");
@@ -214,12 +222,10 @@ TEST_F(SafetyTest, EveryFileOverItsLimitIsRefusedAndOneAtItsLimitRead) {
     }
 }
 
-// Seeded mutations of every kind of file the game reads, each read or refused; a refused saved game
-// or list of players leaves the game in play as it was. Also run under the sanitizers.
+// Seeded damage to every file the game reads: each read or refused, the game in play kept. Also sanitized.
 constexpr int kInputs = 2000;
 
-// One damage, or four at once: cut short, a byte changed, a number out of range
-// or odd, a delimiter or blanks put in, a line lost or doubled.
+// One damage or four: cut short, a byte or number changed, a delimiter or blanks in, a line lost or doubled.
 std::string Mutate(std::string text, std::mt19937& rng) {
     static const char* const kNumbers[] = {"99999999999", "2147483648", "-32769", "32767",   "0",
                                            "-1",          "1000",       "150",    "16777217"};
@@ -245,21 +251,25 @@ std::string Mutate(std::string text, std::mt19937& rng) {
 
 using MutationTest = FileTest;
 
-TEST_F(MutationTest, SavedGamesAndListsOfPlayersOpenOrLeaveTheGameInPlayAsItWas) {
+// Beside each, the settings, the standings copy and the tips, read or left at their defaults.
+TEST_F(MutationTest, EveryFileReadOrRefusedAndTheGameInPlayKeptWhole) {
     std::mt19937 rng(20240607);
     auto lines = FieldLines(200);
     for (int p = 3; p <= 200; p += 5)
         lines[p - 1] = PlayerLine(p, "Out, " + std::to_string(p), 0, 200 - p / 5, p);
-    const std::string saved = RosterText(200, 40, 4, 400, lines);
-    const std::string gameData = ReadAll(ShippedFile("gamedata.dat"));
+    const std::string saved = RosterText(200, 40, 4, 400, lines),
+                      gameData = ReadAll(ShippedFile("gamedata.dat"));
+    const std::string settings = "3,#FALSE#,#TRUE#\r\n",
+                      standings = RosterText(80, 12, 3, 200, FieldLines(80)),
+                      tips = ReadAll(ShippedFile(kTipsFileName));
     WriteAll(dir.File("start.sgf"), saved);
     p.openPaths.push_back(dir.File("start.sgf"));
     g.rnd.SeedDeterministic(1);
     g.mnuOpen_Click();  // the hand it deals is under way
     ASSERT_TRUE(p.messages.empty() && g.RunningTimer() == TimerDealHole);
     const Game inPlay = g;
-    const std::string before = Snapshot(inPlay);
-    int opened = 0, refused = 0;
+    const std::string before = StateText(inPlay);
+    int opened = 0, refused = 0, settingsRead = 0, standingsRead = 0;
     for (int i = 0; i < 2 * kInputs; ++i) {
         SCOPED_TRACE("input " + std::to_string(i));
         // A new file each time: one cut to nothing and rewritten is flushed to disk on close.
@@ -291,48 +301,36 @@ TEST_F(MutationTest, SavedGamesAndListsOfPlayersOpenOrLeaveTheGameInPlayAsItWas)
             const std::string& text = p.messages[0].text;
             EXPECT_EQ(p.messages[0].title, save ? "Game Not Saved" : "Game Not Started");
             EXPECT_TRUE(!save || text.rfind("Saved game not opened.\n", 0) == 0) << text;
-            ASSERT_EQ(Snapshot(game), before) << text;
+            ASSERT_EQ(StateText(game), before) << text;
+        }
+        if (!save) {
+            Game other(p);
+            other.AppFolder = folder;
+            WriteAll(folder + "settings.dft", Mutate(settings, rng));
+            WriteAll(folder + "stnd.dat", Mutate(standings, rng));
+            WriteAll(folder + kTipsFileName, Mutate(tips, rng));
+            other.ReadSettings();
+            const int16_t speed = other.GameSpeed >= 1 && other.GameSpeed <= 3 ? other.GameSpeed : 2;
+            settingsRead += other.GameSpeed != 2 || !other.SoundOn;  // not the defaults
+            const View& v = other.view;
+            EXPECT_EQ(
+                std::make_tuple(v.mnuFastSpeed.checked, v.mnuMediumSpeed.checked, v.mnuSlowSpeed.checked,
+                                v.mnuSound.checked, v.mnuTips.checked),
+                std::make_tuple(speed == 1, speed == 2, speed == 3, other.SoundOn, other.TipsAtStartup));
+            FieldCopy copy;
+            const int16_t count = ReadFieldCopy(folder + "stnd.dat", copy);
+            ASSERT_TRUE(count >= 0 && count <= kRoster);
+            standingsRead += count == 80 && copy.Name[80] == "Player No. 80";
+            TipBox box;
+            other.rnd.SeedDeterministic(static_cast<uint64_t>(i));
+            ASSERT_TRUE(LoadTips(box, other.rnd, folder + kTipsFileName));
+            ASSERT_TRUE(box.Tips.empty() || box.lblTipText == box.Tips.at(std::size_t(box.CurrentTip - 1)));
         }
         p.messages.clear();
         std::filesystem::remove_all(folder);
     }
     EXPECT_GT(opened, kInputs / 5);
     EXPECT_GT(refused, kInputs / 2);
-}
-
-TEST_F(MutationTest, SettingsStandingsAndTipsAreReadOrLeftAtTheirDefaults) {
-    const std::string settings = "3,#FALSE#,#TRUE#\r\n",
-                      standings = RosterText(80, 12, 3, 200, FieldLines(80)),
-                      tips = ReadAll(ShippedFile(kTipsFileName));
-    std::mt19937 rng(20240608);
-    int settingsRead = 0, standingsRead = 0;
-    for (int i = 0; i < kInputs; ++i) {
-        SCOPED_TRACE("input " + std::to_string(i));
-        Game game(p);
-        game.AppFolder = dir.File(std::to_string(i)) + "/";
-        std::filesystem::create_directory(game.AppFolder);
-        WriteAll(game.AppFolder + "settings.dft", Mutate(settings, rng));
-        WriteAll(game.AppFolder + "stnd.dat", Mutate(standings, rng));
-        WriteAll(game.AppFolder + kTipsFileName, Mutate(tips, rng));
-        game.ReadSettings();
-        const int16_t speed = game.GameSpeed >= 1 && game.GameSpeed <= 3 ? game.GameSpeed : 2;
-        settingsRead += game.GameSpeed != 2 || !game.SoundOn;  // not the defaults
-        const View& v = game.view;
-        EXPECT_EQ(std::make_tuple(v.mnuFastSpeed.checked, v.mnuMediumSpeed.checked, v.mnuSlowSpeed.checked,
-                                  v.mnuSound.checked, v.mnuTips.checked),
-                  std::make_tuple(speed == 1, speed == 2, speed == 3, game.SoundOn, game.TipsAtStartup));
-        FieldCopy copy;
-        const int16_t count = ReadFieldCopy(game.AppFolder + "stnd.dat", copy);
-        ASSERT_TRUE(count >= 0 && count <= kRoster);
-        standingsRead += count == 80 && copy.Name[80] == "Player No. 80";
-        TipBox box;
-        game.rnd.SeedDeterministic(static_cast<uint64_t>(i));
-        ASSERT_TRUE(LoadTips(box, game.rnd, game.AppFolder + kTipsFileName));
-        if (!box.Tips.empty()) {
-            ASSERT_EQ(box.lblTipText, box.Tips.at(static_cast<std::size_t>(box.CurrentTip - 1)));
-        }
-        std::filesystem::remove_all(game.AppFolder);
-    }
     EXPECT_GT(settingsRead, kInputs / 20);
     EXPECT_GT(standingsRead, kInputs / 20);
 }

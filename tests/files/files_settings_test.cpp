@@ -1,6 +1,4 @@
 // settings.dft, the speeds and the Settings menu, the standings scratch file, and the statistics file.
-#include <gtest/gtest.h>
-
 #include "files/statistics.h"
 #include "tests/files/files_test_util.h"
 
@@ -25,23 +23,18 @@ using SettingsTest = FileTest;
 
 // What was read is written back whole, as speed, sound, tips.
 TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
+    // clang-format off
     const std::tuple<const char*, int, bool, bool, const char*> cases[] = {
         // file (nullptr: none), speed, sound, tips, timers and mark
-        {"1,#TRUE#,#FALSE#\r\n", 1, true, false, kFast},
-        {"3,#FALSE#,#TRUE#\n", 3, false, true, kSlow},
-        {" 2 , #false# , #true#", 2, false, true, kMedium},
-        {"\xEF\xBB\xBF"
-         "3,#TRUE#,#FALSE#\r\n",
-         3, true, false, kSlow},
+        {"1,#TRUE#,#FALSE#\r\n", 1, true, false, kFast}, {"3,#FALSE#,#TRUE#\n", 3, false, true, kSlow},
+        {" 2 , #false# , #true#", 2, false, true, kMedium}, {"\xEF\xBB\xBF" "3,#TRUE#,#FALSE#\r\n", 3, true, false, kSlow},
         // A speed outside 1 to 3 changes no timer and no mark, and is written back as it was.
-        {"0,#FALSE#,#FALSE#\r\n", 0, false, false, kAsDrawn},
-        {"4,#TRUE#,#TRUE#\r\n", 4, true, true, kAsDrawn},
+        {"0,#FALSE#,#FALSE#\r\n", 0, false, false, kAsDrawn}, {"4,#TRUE#,#TRUE#\r\n", 4, true, true, kAsDrawn},
         // A file that cannot be read gives what the menus show before any file.
-        {nullptr, 2, true, true, kMedium},
-        {"3,#FALSE#", 2, true, true, kMedium},
-        {"fast,#FALSE#,#FALSE#\r\n", 2, true, true, kMedium},
-        {"1,-1,0\r\n", 2, true, true, kMedium},
+        {nullptr, 2, true, true, kMedium}, {"3,#FALSE#", 2, true, true, kMedium},
+        {"fast,#FALSE#,#FALSE#\r\n", 2, true, true, kMedium}, {"1,-1,0\r\n", 2, true, true, kMedium},
     };
+    // clang-format on
     for (const auto& [text, speed, sound, tips, timers] : cases) {
         SCOPED_TRACE(text ? text : "(no file)");
         ScriptedPlatform p2;
@@ -63,14 +56,13 @@ TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
 TEST_F(SettingsTest, MenuEntriesSetTheTimersTheMarksAndTheFlags) {
     g.ReadSettings();
     g.EnableTimer(TimerBetFlop);
+    // clang-format off
     const std::tuple<void (Game::*)(), const char*, int, bool, bool> steps[] = {
-        {&Game::mnuFastSpeed_Click, kFast, 1, true, true},
-        {&Game::mnuSound_Click, kFast, 1, false, true},
-        {&Game::mnuSlowSpeed_Click, kSlow, 3, false, true},
-        {&Game::mnuTips_Click, kSlow, 3, false, false},
-        {&Game::mnuSound_Click, kSlow, 3, true, false},
-        {&Game::mnuMediumSpeed_Click, kMedium, 2, true, false},
+        {&Game::mnuFastSpeed_Click, kFast, 1, true, true}, {&Game::mnuSound_Click, kFast, 1, false, true},
+        {&Game::mnuSlowSpeed_Click, kSlow, 3, false, true}, {&Game::mnuTips_Click, kSlow, 3, false, false},
+        {&Game::mnuSound_Click, kSlow, 3, true, false}, {&Game::mnuMediumSpeed_Click, kMedium, 2, true, false},
         {&Game::mnuTips_Click, kMedium, 2, true, true}};
+    // clang-format on
     for (const auto& [click, timers, speed, sound, tips] : steps) {
         (g.*click)();
         EXPECT_EQ(std::make_tuple(Speed(g), int{g.GameSpeed}, g.RunningTimer(), g.SoundOn,
@@ -79,20 +71,33 @@ TEST_F(SettingsTest, MenuEntriesSetTheTimersTheMarksAndTheFlags) {
     }
 }
 
-// A file in the way of AppFolder makes it unwritable, even for root: standings and settings go to the
-// user folder, and settings stay there.
-TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolder) {
+// An installed or unwritable copy writes only the user folder, and its settings stay there after.
+TEST_F(SettingsTest, InstalledOrUnwritableCopiesWriteTheUserFolder) {
     WriteAll(dir.File("blocked"), "not a folder");
-    std::tie(g.AppFolder, g.UserDataFolder) = std::make_tuple(dir.File("blocked/"), dir.File("user/data/"));
-    FillRoster(g, 8);
-    g.cmdFloor_Click();
-    EXPECT_EQ(std::make_tuple(g.StandingsPath, p.floors, ReadAll(g.StandingsPath).substr(0, 11)),
-              std::make_tuple(dir.File("user/data/stnd.dat"), std::vector<std::string>{g.StandingsPath},
-                              "8,0,0,0\r\n1,"));
-    g.ReadSettings();
-    g.mnuFastSpeed_Click();
-    g.WriteSettings();
-    EXPECT_EQ(ReadAll(dir.File("user/data/settings.dft")), "1,#TRUE#,#TRUE#\r\n");
+    for (bool installed : {true, false}) {
+        SCOPED_TRACE(installed);
+        std::filesystem::remove_all(dir.File("user"));
+        WriteAll(dir.File("settings.dft"), "3,#TRUE#,#FALSE#\r\n");
+        std::tie(g.InstalledCopy, g.AppFolder, g.UserDataFolder, g.StandingsPath) =
+            std::make_tuple(installed, installed ? dir.Folder() : dir.File("blocked/"),
+                            dir.File("user/data/"), installed ? dir.File("stnd.dat") : "");
+        g.ReadSettings();
+        EXPECT_EQ(std::make_pair(g.GameSpeed, g.TipsAtStartup),
+                  std::make_pair(int16_t(installed ? 3 : 2), !installed));
+        g.mnuFastSpeed_Click();
+        g.WriteSettings();
+        FillRoster(g, 8);
+        installed ? g.cmdStandings_Click() : g.cmdFloor_Click();
+        EXPECT_EQ(
+            std::make_tuple(ReadAll(dir.File("settings.dft")), std::filesystem::exists(dir.File("stnd.dat")),
+                            ReadAll(dir.File("user/data/settings.dft")), g.StandingsPath,
+                            ReadAll(g.StandingsPath).substr(0, 11)),
+            std::make_tuple("3,#TRUE#,#FALSE#\r\n", false,
+                            installed ? "1,#TRUE#,#FALSE#\r\n" : "1,#TRUE#,#TRUE#\r\n",
+                            dir.File("user/data/stnd.dat"), "8,0,0,0\r\n1,"));
+    }
+    EXPECT_EQ(std::make_pair(p.standings, p.floors),
+              std::make_pair(std::vector<std::string>{dir.File("user/data/stnd.dat")}, p.standings));
     // Nowhere to write: a message, and neither view opens on an old file.
     for (auto [click, title] : {std::make_pair(&Game::cmdStandings_Click, "Standings"),
                                 std::make_pair(&Game::mnuFloor_Click, "View Floor")}) {
@@ -102,7 +107,7 @@ TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolder) {
                       title);
     }
     EXPECT_EQ(std::make_pair(p.standings.size(), p.floors.size()),
-              std::make_pair(std::size_t{0}, std::size_t{1}));
+              std::make_pair(std::size_t{1}, std::size_t{1}));
     std::tie(g.AppFolder, g.UserDataFolder) = std::make_tuple(dir.Folder(), dir.File("user/data/"));
     WriteAll(dir.File("settings.dft"), "3,#TRUE#,#TRUE#\r\n");
     g.ReadSettings();
@@ -111,25 +116,6 @@ TEST_F(SettingsTest, UnwritableAppFolderFallsBackToTheUserFolder) {
     EXPECT_EQ(std::make_tuple(int{g.GameSpeed}, ReadAll(dir.File("user/data/settings.dft")),
                               ReadAll(dir.File("settings.dft"))),
               std::make_tuple(1, "1,#FALSE#,#TRUE#\r\n", "3,#TRUE#,#TRUE#\r\n"));
-}
-
-// An installed copy never writes its own folder, even where it could.
-TEST_F(SettingsTest, InstalledCopyWritesOnlyTheUserFolder) {
-    WriteAll(dir.File("settings.dft"), "3,#TRUE#,#FALSE#\r\n");
-    std::tie(g.InstalledCopy, g.UserDataFolder, g.StandingsPath) =
-        std::make_tuple(true, dir.File("user/data/"), g.AppFolder + "stnd.dat");
-    g.ReadSettings();
-    EXPECT_EQ(std::make_tuple(g.GameSpeed, g.TipsAtStartup), std::make_tuple(3, false));
-    g.mnuFastSpeed_Click();
-    g.WriteSettings();
-    FillRoster(g, 8);
-    g.cmdStandings_Click();
-    EXPECT_EQ(
-        std::make_tuple(ReadAll(dir.File("settings.dft")), std::filesystem::exists(dir.File("stnd.dat")),
-                        ReadAll(dir.File("user/data/settings.dft")), p.standings,
-                        ReadAll(dir.File("user/data/stnd.dat")).substr(0, 11)),
-        std::make_tuple("3,#TRUE#,#FALSE#\r\n", false, "1,#TRUE#,#FALSE#\r\n",
-                        std::vector<std::string>{dir.File("user/data/stnd.dat")}, "8,0,0,0\r\n1,"));
 }
 
 TEST_F(SettingsTest, StandingsAndFloorWriteTheWholeRosterFirst) {
@@ -161,28 +147,25 @@ TEST(StatisticsFile, SurvivesARestartOrGivesTheDefaults) {
     EXPECT_EQ(ReadStatistics(path), Statistics{}) << "no file yet";
     Statistics s;
     std::tie(s.gamesPlayed, s.tournamentsPlayed, s.bestFinish, s.handsPlayed, s.handsWon, s.showdownsWon,
-             s.biggestPotWon, s.handsVoluntary, s.showHandLog) =
+             s.biggestPotWon, s.handsVoluntary, s.showTourney) =
         std::make_tuple(4, 3, decltype(s.bestFinish){2, 0, 57, 734}, 310, 41, 17, 123400, 88, false);
     ASSERT_TRUE(WriteStatistics(path, s));  // makes the folder too
+    EXPECT_EQ(
+        ReadAll(path),
+        "holdem statistics 1\ngames 4\ntournaments 3\nhands 310\nwon 41\nshowdowns 17\nbiggest-pot 123400\n"
+        "voluntary 88\nbest-8 2\nbest-80 0\nbest-200 57\nbest-1000 734\nshow-hand-log 1\nshow-tourney 0\n");
     EXPECT_EQ(ReadStatistics(path), s);
     ResetRecord(s);
-    EXPECT_EQ(std::make_pair(s.handsPlayed, s.showHandLog), std::make_pair(0, false));  // keeps the panel
+    EXPECT_EQ(std::make_tuple(s.handsPlayed, s.showHandLog, s.showTourney),
+              std::make_tuple(0, true, false));  // keeps the panels
 
     const std::string good = "holdem statistics 1\ngames 2\nhands 10\nwon 3\n";
-    const std::string cases[] = {
-        "",
-        "holdem statistics 2\ngames 2\n",
-        "games 2\n",
-        good + "won three\n",
-        good + "hands -5\n",
-        good + "hands 99999999999\n",
-        good + "best-80 81\n",
-        good + "show-tourney 2\n",
-        good + "colour blue\n",
-        "holdem statistics 1\nhands 1\nwon 5\n",
-        good + std::string(20000, '\n'),
-        std::string("holdem statistics 1\0games 2\n", 28),
-    };
+    // clang-format off
+    const std::string cases[] = {"", "holdem statistics 2\ngames 2\n", "games 2\n", good + "won three\n", good + "won 3 3\n",
+        good + "hands -5\n", good + "hands 99999999999\n", good + "best-80 81\n", good + "show-tourney 2\n",
+        good + "colour blue\n", "holdem statistics 1\nhands 1\nwon 5\n", good + std::string(20000, '\n'),
+        std::string("holdem statistics 1\0games 2\n", 28)};
+    // clang-format on
     for (const std::string& text : cases) {
         SCOPED_TRACE(text.substr(0, 60));
         WriteAll(path, text);
@@ -193,6 +176,35 @@ TEST(StatisticsFile, SurvivesARestartOrGivesTheDefaults) {
     s.gamesPlayed = 9;
     EXPECT_FALSE(WriteStatistics(path + "/below-a-file.txt", s));
     EXPECT_EQ(ReadStatistics(path).gamesPlayed, 2);
+}
+
+// The record follows the log: games, tournaments, hands, chips in by choice, pots, showdowns, best finishes.
+TEST(StatisticsFile, TheWatcherKeepsTheRecordFromTheLog) {
+    using K = LogKind;
+    // clang-format off
+    const std::tuple<LogKind, int32_t, bool, int32_t, int16_t> lines[] = {  // kind, number, flag, total, street
+        {K::GameStart, 80, false, 0, 0}, {K::HoleCards, 0, true, 0, 1}, {K::GameStart, 80, true, 0, 0},
+        {K::HoleCards, 0, true, 0, 1}, {K::Call, 0, false, 0, 1}, {K::Raise, 0, true, 0, 1}, {K::Bet, 0, true, 0, 1},
+        {K::HandResult, 2, true, 900, 4}, {K::HoleCards, 0, true, 0, 1}, {K::Call, 0, true, 0, 2},
+        {K::HandResult, 1, true, 400, 2}, {K::HandResult, 1, true, 5000, 1}, {K::HoleCards, 0, true, 0, 1},
+        {K::HandResult, 1, false, 0, 1}, {K::UserOut, 7, true, 0, 0}, {K::Winner, 0, false, 0, 0},
+        {K::GameStart, 8, true, 0, 0}, {K::UserOut, 3, true, 0, 0}, {K::GameStart, 100, true, 0, 0},
+        {K::UserOut, 2, true, 0, 0}, {K::GameStart, 1000, true, 0, 0}, {K::UserOut, 9, true, 0, 0},
+        {K::UserOut, 12, true, 0, 0}, {K::Winner, 0, true, 0, 0}, {K::Fold, 0, true, 0, 1}};
+    // clang-format on
+    Statistics s, want;
+    StatisticsWatcher watcher;
+    std::string saves;
+    for (const auto& [kind, number, flag, total, street] : lines) {
+        LogLine l;
+        std::tie(l.kind, l.number, l.flag, l.total, l.street) = std::tie(kind, number, flag, total, street);
+        saves += watcher.Observe(s, l) ? '1' : '0';
+    }
+    std::tie(want.gamesPlayed, want.tournamentsPlayed, want.bestFinish, want.handsPlayed, want.handsWon,
+             want.showdownsWon, want.biggestPotWon, want.handsVoluntary) =
+        std::make_tuple(4, 3, decltype(want.bestFinish){3, 7, 0, 1}, 4, 2, 1, 900, 1);
+    EXPECT_EQ(s, want);
+    EXPECT_EQ(saves, "0010000100100110111011110");
 }
 
 }  // namespace

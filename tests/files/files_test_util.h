@@ -1,18 +1,12 @@
-// Builders shared by the file tests: a private folder, whole-file reads and
-// writes, roster files as text, and a game wired to a scripted platform.
+// Builders of the file tests: a private folder, whole files, roster files as text, a game on a script.
 #pragma once
-
-#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string>
 #include <tuple>
-#include <vector>
 
-#include "engine/game_state.h"
-#include "tests/support/scripted_platform.h"
+#include "tests/support/builders.h"
 
 namespace holdem::test {
 
@@ -55,6 +49,15 @@ inline std::vector<std::string> FieldLines(int size, int bank = 10000) {
     for (int p = 1; p <= size; ++p) lines.push_back(PlayerLine(p, PlayerName(p), bank, 0, p));
     return lines;
 }
+// Eight players of `bank` under the header "size,hands,button,blind"; the last player's line as given.
+inline std::string EightPlayers(const std::string& header, int bank = 10000,
+                                const std::string& last = "8,\"P8\",10000,0,8") {
+    auto lines = FieldLines(8, bank);
+    lines[7] = last;
+    return header + "\r\n" + RosterText(8, 0, 0, 0, lines).substr(9);
+}
+// 16,777,200 chips in all; 2^24 is the most a Single holds exactly.
+inline const std::string kMostChips = EightPlayers("8,5,2,100", 2097200, "8,\"P8\",2096800,0,8");
 inline void FillRoster(Game& g, int size) {
     g.TournamentSize = static_cast<int16_t>(size);
     for (int p = 1; p <= size; ++p)
@@ -79,8 +82,7 @@ protected:
         g.rnd.Script(std::move(draws));
         g.mnuOpen_Click();
     }
-    // Exactly one message box, then the record is cleared. Only the first line
-    // of the text is pinned: a reason may follow it.
+    // Exactly one message box, its first line (a reason may follow), then the record is cleared.
     void ExpectMessage(const std::string& text, const std::string& title, MsgIcon icon = MsgIcon::Exclamation,
                        MsgButtons buttons = MsgButtons::OK) {
         ASSERT_EQ(p.messages.size(), 1u);
@@ -89,10 +91,7 @@ protected:
         EXPECT_EQ(std::tie(first, m.title, m.icon, m.buttons), std::tie(text, title, icon, buttons));
         p.messages.clear();
     }
-    void ExpectDrawsUsed(const Game& game) {
-        EXPECT_EQ(std::make_pair(game.rnd.Remaining(), game.rnd.Overdrawn()),
-                  std::make_pair(std::size_t{0}, 0));
-    }
+    void ExpectDrawsUsed(const Game& game) { EXPECT_EQ(game.rnd.Remaining() + game.rnd.Overdrawn(), 0u); }
 };
 
 }  // namespace holdem::test

@@ -1,9 +1,7 @@
 #!/bin/sh
-# Installs the game into a temporary folder, as a package or `make install`
-# would, and checks the installed tree: the desktop entry and metainfo are
-# valid, every shipped file is there, and the installed program, moved away
-# from its prefix, paints its first table from that tree and writes nothing
-# into it.
+# Installs the game into a temporary folder as a package or `make install` would, and checks the tree:
+# the desktop entry and metainfo are valid, every shipped file is there, and the installed program,
+# moved away from its prefix, paints its first table from that tree and writes nothing into it.
 set -eu
 build=$(cd "$1" && pwd)
 source=$(cd "$(dirname "$0")/../.." && pwd)
@@ -36,11 +34,8 @@ appstreamcli validate --no-net "$root/share/metainfo/com.corvane.holdem.metainfo
 # The installed program under a virtual display, with a home of its own.
 mkdir "$tmp/home"
 touch "$tmp/stamp"
-if command -v xvfb-run >/dev/null && command -v Xvfb >/dev/null; then
-    display="xvfb-run -a"
-else
-    display="env QT_QPA_PLATFORM=offscreen"
-fi
+display="env QT_QPA_PLATFORM=offscreen"
+if command -v xvfb-run >/dev/null && command -v Xvfb >/dev/null; then display="xvfb-run -a"; fi
 env -u XDG_DATA_HOME -u XDG_CONFIG_HOME -u QT_QPA_PLATFORM HOME="$tmp/home" timeout 120 $display \
     strace -f -qq -e trace=%file -o "$tmp/trace" "$root/bin/holdem" --quit-after-first-paint >"$tmp/out" ||
     fail "the installed program did not start"

@@ -31,8 +31,7 @@ void SetBoard(Game& g, const std::string& cards) {
 
 void SetHole(Game& g, int seat, const std::string& cards) {
     std::vector<int16_t> hole = CardsOf(cards);
-    g.SeatCards[seat][1] = hole[0];
-    g.SeatCards[seat][2] = hole[1];
+    g.SeatCards[seat][1] = hole[0], g.SeatCards[seat][2] = hole[1];
 }
 
 void SeatPlayer(Game& g, int seat, float bankLeft, int32_t totalBet, int32_t bet, bool inHand) {
@@ -40,27 +39,21 @@ void SeatPlayer(Game& g, int seat, float bankLeft, int32_t totalBet, int32_t bet
     g.SeatBank[seat] = bankLeft;
     g.PlayersInHand = static_cast<int16_t>(g.PlayersInHand - g.SeatInHand[seat] + inHand);
     g.Pot += totalBet + bet - g.SeatTotalBet[seat] - g.SeatBet[seat];
-    g.SeatTotalBet[seat] = totalBet;
-    g.SeatBet[seat] = bet;
-    g.SeatInHand[seat] = inHand;
+    std::tie(g.SeatTotalBet[seat], g.SeatBet[seat], g.SeatInHand[seat]) =
+        std::make_tuple(totalBet, bet, inHand);
     g.view.icard[seat].visible = g.view.icard[seat + 8].visible = inHand;
 }
 
 void EmptyTable(Game& g, int16_t size) {
     g.TournamentSize = g.PlayersLeft = g.NextFinishPlace = size;
-    g.TablesInPlay = static_cast<int16_t>((size + kSeats - 1) / kSeats);
-    g.SmallBlind = 100;
-    g.Street = 4;
-    g.view.mnuSound.checked = true;
+    std::tie(g.TablesInPlay, g.SmallBlind, g.Street, g.view.mnuSound.checked) =
+        std::make_tuple(int16_t((size + kSeats - 1) / kSeats), 100, int16_t(4), true);
     for (int s = 1; s <= kSeats; ++s) g.SeatHandCode[s] = kNoHand;
     for (int i = 1; i <= size; ++i) g.RosterNumber[i] = static_cast<int16_t>(i);
     g.view.timer[TimerHandOver].enabled = true;
 }
 
-void RankRiver(Game& g) {
-    g.CardsKnown = 7;
-    g.RankHands();
-}
+void RankRiver(Game& g) { g.CardsKnown = 7, g.RankHands(); }
 
 void SeatTable(Game& g, const std::vector<int32_t>& banks, int button, int32_t smallBlind) {
     int s = 0, players = 0;
@@ -71,12 +64,9 @@ void SeatTable(Game& g, const std::vector<int32_t>& banks, int button, int32_t s
         g.RosterBank[s] = bank;
         players += bank > 0;
     }
-    g.ButtonSeat = static_cast<int16_t>(button);
-    g.SmallBlind = smallBlind;
-    g.TournamentSize = kSeats;
-    g.PlayersLeft = static_cast<int16_t>(players);
-    g.TablesInPlay = 1;
-    g.view.mnuSound.checked = true;
+    std::tie(g.ButtonSeat, g.SmallBlind, g.TournamentSize, g.PlayersLeft, g.TablesInPlay,
+             g.view.mnuSound.checked) =
+        std::make_tuple(int16_t(button), smallBlind, int16_t(kSeats), int16_t(players), int16_t(1), true);
 }
 
 std::vector<float> ShuffleDrawsFor(const std::vector<int>& front) {
@@ -90,8 +80,7 @@ std::vector<float> ShuffleDrawsFor(const std::vector<int>& front) {
             if (at == pool.begin() + k + 1) throw std::invalid_argument("card twice in the deck");
             j = static_cast<int>(at - pool.begin());
         }
-        // A little below j where possible: truncating instead of rounding
-        // would deal another card.
+        // A little below j where possible: truncating instead of rounding would deal another card.
         float draw = k == 0 ? 0.0f : (static_cast<float>(j) + (j > 0 ? -0.3f : 0.3f)) / static_cast<float>(k);
         if (static_cast<int>(RoundHalfEven(static_cast<float>(k) * draw)) != j)
             throw std::logic_error("no draw for the wanted card");
@@ -128,6 +117,29 @@ std::vector<float> Draws(std::initializer_list<std::vector<float>> parts) {
     std::vector<float> all;
     for (const auto& part : parts) all.insert(all.end(), part.begin(), part.end());
     return all;
+}
+
+std::string StateText(const Game& g) {
+    std::ostringstream out;
+    out << g.TournamentSize << ',' << g.HandsPlayed << ',' << g.ButtonSeat << ',' << g.SmallBlind << ','
+        << g.PlayersLeft << ',' << g.TablesInPlay << g.GameUnsaved << g.GameEnded << g.SavedGamePath << '\n';
+    for (int p = 1; p <= kRoster; ++p)
+        out << g.RosterName[p] << g.RosterBank[p] << ',' << g.RosterPlace[p] << ',' << g.RosterNumber[p]
+            << '\n';
+    for (int s = 1; s <= kSeats; ++s)
+        out << g.SeatName[s] << g.SeatBank[s] << g.SeatBet[s] << g.SeatInHand[s];
+    const View& v = g.view;
+    std::vector<const Element*> all = {&v.mnuSave,  &v.mnuSaveAs,   &v.mnuMediumSpeed, &v.cmdDeal,
+                                       &v.lblBlind, &v.lblGoodLuck, &v.lblPot,         &v.picTableMoney};
+    for (const auto* group : {&v.lblName, &v.lblBank, &v.lblBet, &v.lblPaid, &v.iArrow, &v.iButton})
+        for (const Element& e : *group) all.push_back(&e);
+    for (const Element& e : v.icard) all.push_back(&e);
+    for (const Element& e : v.cmdPlay) all.push_back(&e);
+    for (const Element* e : all)
+        out << e->text << '|' << e->visible << e->enabled << e->checked << e->picture << '\n';
+    for (const TimerState& t : v.timer) out << t.enabled << t.interval;
+    for (const LogLine& line : v.log) out << '\n' << FormatLogLine(line);
+    return out.str();
 }
 
 void ExpectSettled(const Game& g) {

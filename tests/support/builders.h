@@ -1,48 +1,49 @@
-// Builders for tests of the engine: cards by name, a seat or a whole table,
-// the draws that make the shuffle deal chosen cards, and the closing checks.
+// Builders for engine tests: cards by name, a seat or a table, the draws that deal chosen cards, the closing
+// checks. With GoogleTest and the scripted platform, all an engine test includes.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <initializer_list>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "engine/game_state.h"
+#include "tests/support/scripted_platform.h"
 
 namespace holdem::test {
 
-// "AhKd 2c7s": every two characters a card, spaces ignored: rank 2..9, T, J,
-// Q, K, A, then h, s, d or c for the four suit blocks in their order; 0 for
-// a card it cannot read.
+// "AhKd 2c7s": every two characters a card, spaces ignored: rank 2..9, T, J, Q, K, A, then h, s, d or c for
+// the four suit blocks in their order; 0 for a card it cannot read.
 std::vector<int16_t> CardsOf(const std::string& names);
 
 // The five board cards into Deck[16..20] and elements 3..7 of every seat.
 void SetBoard(Game& g, const std::string& cards);
 void SetHole(Game& g, int seat, const std::string& cards);
 
-// A seat of the shown table in the hand (or out of it) with what it has left
-// and what it has put in; RosterBank becomes the stack it started with.
-// Keeps PlayersInHand and Pot in step.
+// A seat in the hand (or out) with what it has left and has put in; RosterBank becomes the stack it began
+// with, PlayersInHand and Pot kept in step.
 void SeatPlayer(Game& g, int seat, float bankLeft, int32_t totalBet, int32_t bet = 0, bool inHand = true);
 
-// A field of `size` with nobody seated at the shown table, sound on, the
-// hand-over timer running: the ground for the end of one hand.
+// A field of `size`, nobody at the shown table, sound on, the hand-over timer running.
 void EmptyTable(Game& g, int16_t size = 8);
 void RankRiver(Game& g);
 
-// Roster positions 1..8 of a single table with these stacks (0 an empty
-// seat), the button before StartHand moves it on, and the small blind.
+// Positions 1..8 of a single table (0 an empty seat), the button before StartHand moves it, the blind.
 void SeatTable(Game& g, const std::vector<int32_t>& banks, int button, int32_t smallBlind = 100);
 
-// The 52 draws that make the shuffle put `front` at Deck[0], Deck[1], ...;
-// the rest of the deck falls as draws of 0 leave it.
+// The 52 draws that shuffle `front` to Deck[0], Deck[1], ...; the rest falls as draws of 0 leave it.
 std::vector<float> ShuffleDrawsFor(const std::vector<int>& front);
-// The first 21 cards of a deck that deals holes[s] ("AhKd", or "" for cards
-// nobody else holds) to seat s with the button at `button`, and the board.
+// The first 21 cards that deal holes[s] ("" for spare cards) to seat s, the button at `button`; the board.
 std::vector<int> DeckFor(int button, const std::array<std::string, 9>& holes, const std::string& board);
 std::vector<float> Draws(std::initializer_list<std::vector<float>> parts);
 
+// A game's figures, roster, seats, shown elements, timers and log as text, to compare two runs or moments.
+std::string StateText(const Game& g);
 // Every scripted draw taken and none beyond; the state's invariants hold.
 void ExpectSettled(const Game& g);
 // Fires the running timer until none runs: the rest of the hand as the window would play it.

@@ -20,8 +20,7 @@ class ScriptedPlatform : public Platform {
 public:
     MsgAnswer MessageBox(const std::string& text, const std::string& title, MsgIcon icon,
                          MsgButtons buttons) override {
-        messages.push_back({text, title, icon, buttons});
-        return Take(answers, MsgAnswer::OK);
+        return messages.push_back({text, title, icon, buttons}), Take(answers, MsgAnswer::OK);
     }
     std::optional<std::string> OpenFileDialog(const FileDialogRequest& r) override {
         return openDialogs.push_back(r), Take(openPaths, {});
@@ -54,14 +53,11 @@ public:
     // The record.
     std::vector<MessageCall> messages;
     std::vector<FileDialogRequest> openDialogs, saveDialogs;
-    std::vector<std::string> sounds;
-    int pauses = 0;
+    std::vector<std::string> sounds, standings, floors;
+    int pauses = 0, playerNameCalls = 0;
     std::vector<BetAmountRequest> betRequests;
-    std::vector<int16_t> newGameSpeeds;
-    int playerNameCalls = 0;
-    std::vector<int16_t> gameOvers;
+    std::vector<int16_t> newGameSpeeds, gameOvers;
     std::vector<PotBreakdown> breakdowns;
-    std::vector<std::string> standings, floors;
     std::vector<InfoForm> infos;
 
 private:
@@ -69,8 +65,7 @@ private:
     static T Take(std::deque<T>& queue, T fallback) {
         if (queue.empty()) return fallback;
         T value = queue.front();
-        queue.pop_front();
-        return value;
+        return queue.pop_front(), value;
     }
 };
 

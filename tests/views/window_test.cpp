@@ -1,5 +1,4 @@
-// The window, its forms, pictures and sounds on the offscreen platform at a device pixel ratio
-// of 2 (unless QT_SCALE_FACTOR says otherwise). Each form is photographed beside the program.
+// The window, its forms, pictures and sounds offscreen at a device pixel ratio of 2; each form photographed.
 #include <QtTest>
 #include <QtWidgets>
 #include <fstream>
@@ -22,8 +21,8 @@
 using namespace holdem;
 
 namespace {
-// Seat 1 against seat 2. With every shuffle draw 0 the button moves to seat 2, whose King-high
-// straight flush in diamonds beats seat 1's Queen-high one; seat 2 checks, checks and calls.
+// Seat 1 against seat 2: on the all-zero shuffle seat 2 has the button and a King-high straight flush in
+// diamonds over seat 1's Queen-high one; seat 2 checks, checks and calls.
 void SetUpHeadsUp(frmMain& w) {
     Game& g = w.game;
     for (int s = 1; s <= kSeats; ++s)
@@ -33,11 +32,10 @@ void SetUpHeadsUp(frmMain& w) {
         std::tuple(8, 2, 2, 1, 1, 100);
     g.view.mnuSave.enabled = g.view.cmdDeal.visible = g.view.cmdStandings.visible = g.view.cmdFloor.visible =
         true;
-    std::vector<float> draws(52, 0.0f);
-    draws.insert(draws.end(), 4, 0.99f);
+    std::vector<float> draws(56, 0.0f);
+    std::fill(draws.begin() + 52, draws.end(), 0.99f);
     g.rnd.Script(draws);
-    w.Redraw();
-    w.show();
+    w.Redraw(), w.show();
 }
 // The one QTimer running, kTimerCount unless exactly one runs.
 TimerId RunningTimer(const frmMain& w) {
@@ -123,15 +121,6 @@ void FillTable(frmMain& w, bool showdown) {
     v.lblGoodLuck = {"Final Table!", !showdown};
     w.Redraw();
 }
-// The pixels of a picture that pass the test, counted by column.
-std::vector<int> Columns(const QImage& image, bool (*test)(QColor)) {
-    std::vector<int> columns(image.width());
-    for (int x = 0; x < image.width(); ++x)
-        for (int y = 0; y < image.height(); ++y) columns[x] += test(image.pixelColor(x, y));
-    return columns;
-}
-bool Red(QColor c) { return c.alpha() > 200 && c.red() > 150 && c.green() < 80 && c.blue() < 80; }
-bool White(QColor c) { return c.alpha() > 200 && c.red() > 230 && c.green() > 230 && c.blue() > 230; }
 }  // namespace
 
 class WindowTest : public QObject {
@@ -181,49 +170,42 @@ private slots:
                  std::make_tuple(std::string("LOSTHAND"), std::ptrdiff_t(9), 9800, std::size_t(0), 100, 300));
         Shot(w, "window_showdown");
     }
-    void accessKeysBetweenHandsAndDuringTheTurn_data() {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<bool>("onTheFlop");
-        QTest::addColumn<QString>("words");  // lblBet(1) after the press
-        QTest::newRow("Alt+C") << int(Qt::Key_C) << false << "Called $100";
-        QTest::newRow("Alt+F") << int(Qt::Key_F) << false << "Folded";
-        QTest::newRow("Alt+B") << int(Qt::Key_B) << false << "Amount to Call: $100";
-        QTest::newRow("Alt+H") << int(Qt::Key_H) << true << "Checked";
-        QTest::newRow("Space on Fold, moved there") << int(Qt::Key_Space) << true << "Folded";
-    }
     void accessKeysBetweenHandsAndDuringTheTurn() {
-        QFETCH(int, key);
-        QFETCH(bool, onTheFlop);
-        QFETCH(QString, words);
-        test::ScriptedPlatform platform;
-        frmMain w(Here(), &platform);
-        SetUpHeadsUp(w);
-        w.mnuSlowSpeed->trigger();  // no QTimer runs out while keys are pressed
-        Activate(w);
-        // Between hands the buttons take S and V; File and Help keep their letters.
-        QCOMPARE(MenuTitles(w), QString("Settings&File&Help"));
-        for (Qt::Key k : {Qt::Key_S, Qt::Key_V, Qt::Key_D}) QTest::keyClick(&w, k, Qt::AltModifier);
-        QVERIFY(QTest::qWaitFor([&] {
-            return platform.standings.size() == 1 && platform.floors.size() == 1 && !Shows(w.cmdDeal);
-        }));
-        RunToTurn(w);
-        if (onTheFlop) QTest::mouseClick(w.cmdPlay[2], Qt::LeftButton), RunToTurn(w);
-        QCOMPARE(MenuTitles(w), QString("&SettingsFileHelp"));
-        // A new turn: no button holds the keyboard, and Space presses none.
-        QVERIFY(!FocusOnAButton());
-        const QString before = w.lblBet[1]->text();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-        QTest::keyClick(&w, Qt::Key_Return);
-        QCOMPARE(w.lblBet[1]->text(), before);
-        if (key == Qt::Key_Space) w.cmdPlay[4]->setFocus(Qt::TabFocusReason);  // moved there this turn
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key),
-                        key == Qt::Key_Space ? Qt::NoModifier : Qt::AltModifier);
-        QTRY_COMPARE(platform.betRequests.size(), size_t(key == Qt::Key_B));
-        QTRY_COMPARE(w.lblBet[1]->text(), words);
-        QTRY_VERIFY(!FocusOnAButton());
+        // clang-format off
+        const std::tuple<Qt::Key, bool, QString> cases[] = {  // key, on the flop, lblBet(1) after the press
+            {Qt::Key_C, false, "Called $100"}, {Qt::Key_F, false, "Folded"}, {Qt::Key_B, false, "Amount to Call: $100"},
+            {Qt::Key_H, true, "Checked"}, {Qt::Key_Space, true, "Folded"}};  // Space on Fold, moved there
+        // clang-format on
+        for (const auto& [key, onTheFlop, words] : cases) {
+            test::ScriptedPlatform platform;
+            frmMain w(Here(), &platform);
+            SetUpHeadsUp(w);
+            w.mnuSlowSpeed->trigger();  // no QTimer runs out while keys are pressed
+            Activate(w);
+            // Between hands the buttons take S and V; File and Help keep their letters.
+            QCOMPARE(MenuTitles(w), QString("Settings&File&Help"));
+            for (Qt::Key k : {Qt::Key_S, Qt::Key_V, Qt::Key_D}) QTest::keyClick(&w, k, Qt::AltModifier);
+            QVERIFY(QTest::qWaitFor([&] {
+                return platform.standings.size() == 1 && platform.floors.size() == 1 && !Shows(w.cmdDeal);
+            }));
+            RunToTurn(w);
+            if (onTheFlop) QTest::mouseClick(w.cmdPlay[2], Qt::LeftButton), RunToTurn(w);
+            QCOMPARE(MenuTitles(w), QString("&SettingsFileHelp"));
+            // A new turn: no button holds the keyboard, and Space presses none.
+            QVERIFY(!FocusOnAButton());
+            const QString before = w.lblBet[1]->text();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+            QTest::keyClick(&w, Qt::Key_Return);
+            QCOMPARE(w.lblBet[1]->text(), before);
+            if (key == Qt::Key_Space) w.cmdPlay[4]->setFocus(Qt::TabFocusReason);  // moved there this turn
+            QTest::keyClick(QApplication::focusWidget(), key,
+                            key == Qt::Key_Space ? Qt::NoModifier : Qt::AltModifier);
+            QTRY_COMPARE(platform.betRequests.size(), size_t(key == Qt::Key_B));
+            QTRY_COMPARE(w.lblBet[1]->text(), words);
+            QTRY_VERIFY(!FocusOnAButton());
+        }
     }
-    // The same seeded hands, once undisturbed and once with every form that
-    // the table opens brought up and closed at every step.
+    // The same seeded hands, undisturbed and with every form of the table opened and closed at every step.
     void openingFormsNeverChangesAHand() {
         QStringList record[2];
         for (int disturbed = 0; disturbed < 2; ++disturbed) {
@@ -298,8 +280,8 @@ private slots:
                 std::make_tuple(std::size_t(asks), int(leaves), !leaves, unsaved && !saves, saves, leaves));
         }
     }
-    // Only digits get through, typed or pasted; Ctrl+A takes them all. OK or Enter refuses with a
-    // message, or closes with the amount plus the $1,200 to call; Escape closes with none.
+    // Only digits get in, typed or pasted; Ctrl+A takes all. OK or Enter refuses, or closes with the
+    // amount and the $1,200 to call; Escape closes with none.
     void theBetDialogByKeys() {
         enum { OK, Enter, Escape };
         const std::tuple<const char*, const char*, int, const char*, const char*, int> cases[] = {
@@ -309,8 +291,6 @@ private slots:
             {"", "0", OK, "", "No bet entered", -1},
             {"", "150", OK, "150", "You must bet in multiples of $100.", -1},
             {"", "8800", OK, "", "You've only got $9,900.", -1},
-            {"", "8700", Enter, "8700", "", 9900},
-            {"", "0", Enter, "0", "", 0},
             {"1200", "", Escape, "1200", "", 0},
             {"87", "00", Enter, "8700", "", 9900}};
         for (const auto& [pasted, typed, out, left, message, amount] : cases) {
@@ -359,8 +339,7 @@ private slots:
         QTest::keyClick(&splash, Qt::Key_Space);
         QVERIFY(!splash.isVisible() && !splash.timerSplash->isActive());
     }
-    // A thousand players, the user out first: the standings page by clicks and keys and find the
-    // user; the floor names a clicked seat; the tip and help forms turn over.
+    // A field of 1,000, the user out first: standings paged by clicks and keys; floor, tip and help forms.
     void theFieldViews() {
         const std::string stnd = WriteStnd(dir_.filePath("stnd.dat"), 1000);
         frmRankings standings(stnd);
@@ -407,13 +386,12 @@ private slots:
         QVERIFY(help.Page() == 2 && help.cmdPrevious->isEnabled() && !help.cmdNext->isEnabled());
     }
     void theSceneScalesAndNoTextCoversAnother() {
-        const std::tuple<const char*, QSize, qreal, bool> cases[] = {
-            // name, client area, scale, showdown
-            {"as_laid_out_dealing", {755, 508}, 1.0, false},
-            {"as_laid_out_showdown", {755, 508}, 1.0, true},
-            {"wide_showdown", {1400, 800}, 800 / 508.0, true},
-            {"twice_dealing", {1510, 1016}, 2.0, false},
+        // clang-format off
+        const std::tuple<const char*, QSize, qreal, bool> cases[] = {  // name, client area, scale, showdown
+            {"as_laid_out_dealing", {755, 508}, 1.0, false}, {"as_laid_out_showdown", {755, 508}, 1.0, true},
+            {"wide_showdown", {1400, 800}, 800 / 508.0, true}, {"twice_dealing", {1510, 1016}, 2.0, false},
             {"smaller_than_laid_out", {600, 400}, 1.0, true}};
+        // clang-format on
         for (const auto& [name, client, scale, showdown] : cases) {
             test::ScriptedPlatform platform;
             frmMain w(Here(), &platform);
@@ -441,8 +419,8 @@ private slots:
             Shot(w, QString("scale_") + name);
         }
     }
-    // Drawn at twice the listed size; hearts 1-13 and diamonds 27-39 red; each arrow points its way.
-    void pictures() {
+    // Pictures drawn at twice the listed size; hearts 1-13 and diamonds 27-39 red; each arrow points its way.
+    void picturesAndSounds() {
         QList<QPair<QString, QSize>> pictures = {
             {"table", {757, 527}},    {"table_winner", {758, 517}}, {"arrow_right", {34, 16}},
             {"arrow_left", {34, 16}}, {"dealer", {34, 34}},         {"card_back", {73, 97}},
@@ -454,17 +432,21 @@ private slots:
         for (const auto& [name, size] : pictures) {
             const QImage image(QString::fromStdString(Here()) + "pictures/" + name + ".png");
             QVERIFY2(image.size() == size * 2, qPrintable(name));
-            const auto red = Columns(image, Red), white = Columns(image, White);
-            const int reds = std::accumulate(red.begin(), red.end(), 0), card = name.mid(5).toInt();
+            std::vector<int> white(image.width());  // white pixels by column
+            int reds = 0, card = name.mid(5).toInt();
+            for (int x = 0; x < image.width(); ++x)
+                for (int y = 0; y < image.height(); ++y) {
+                    const QColor c = image.pixelColor(x, y);
+                    reds += c.alpha() > 200 && c.red() > 150 && c.green() < 80 && c.blue() < 80;
+                    white[x] += c.alpha() > 200 && c.red() > 230 && c.green() > 230 && c.blue() > 230;
+                }
             const bool rightHeavy =
                 std::max_element(white.begin(), white.end()) - white.begin() > image.width() / 2;
             if (name.startsWith("card_") && card > 0)
                 QVERIFY2((card - 1) / 13 % 2 == 0 ? reds > 200 : reds == 0, qPrintable(name));
             if (name.startsWith("arrow")) QVERIFY2(rightHeavy == name.endsWith("right"), qPrintable(name));
         }
-    }
-    // Plain 16-bit mono PCM at its rate, of about its length, and not next to silent.
-    void sounds() {
+        // Sounds: plain 16-bit mono PCM at its rate, of about its length, and not next to silent.
         const std::tuple<const char*, int, double> sounds[] = {
             {"BUTTONCLICK", 22050, 0.049}, {"DEAL", 44100, 0.178},      {"WONHAND", 44100, 0.513},
             {"LOSTHAND", 44100, 0.198},    {"MOVED", 44100, 1.683},     {"TWOMOVED", 44100, 2.981},
