@@ -25,8 +25,7 @@ public:
     float Rnd() {
         ++draws_;
         if (scripted_) return ScriptedDraw();
-        // 24 random bits fill a float's mantissa exactly: uniform on [0, 1).
-        return static_cast<float>(Next() >> 40) * (1.0f / 16777216.0f);
+        return ToDraw(Next());
     }
     // As many draws as `out` holds, the same as that many calls of Rnd().
     template <std::size_t N>
@@ -37,7 +36,7 @@ public:
             return;
         }
         uint64_t x = state_;
-        for (float& d : out) d = static_cast<float>(SplitMix(x) >> 40) * (1.0f / 16777216.0f);
+        for (float& d : out) d = ToDraw(SplitMix(x));
         state_ = x;
     }
     void Randomize();
@@ -55,6 +54,8 @@ public:
     uint64_t Draws() const { return draws_; }
 
 private:
+    // 24 random bits fill a float's mantissa exactly: uniform on [0, 1).
+    static float ToDraw(uint64_t bits) { return static_cast<float>(bits >> 40) * (1.0f / 16777216.0f); }
     float ScriptedDraw();
     uint64_t Next() { return SplitMix(state_); }
 
