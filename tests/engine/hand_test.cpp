@@ -1,6 +1,5 @@
-// A hand of the shown table: StartHand, the shuffle, the deal, and a whole hand through the real timer chain
-// as the hand log tells it; the user's turn: the buttons it opens with, the four presses, the three refusals,
-// and the bet dialog's checks.
+// StartHand, a whole hand as the log tells it; the user's turn, its four presses and refusals; the bet
+// dialog.
 #include "engine/bet_amount.h"
 #include "files/statistics.h"
 #include "tests/support/builders.h"
@@ -10,8 +9,8 @@ namespace {
 
 using namespace test;
 
-// StartHand on the all-zero shuffle clears what an earlier hand left. Tells the button, the blinds, the
-// seat to act and the one before, players, pot, high bet, then every bet label and changed stack.
+// StartHand on the all-zero shuffle clears an earlier hand; tells the seats, pot, high bet, bets, changed
+// stacks.
 std::string Start(Game& g, const std::vector<int32_t>& banks, int button, int32_t blind) {
     for (int s = 1; s <= kSeats; ++s) {
         g.SeatRaised[s] = g.view.lblPaid[s].visible = g.view.iArrow[s].visible = true;
@@ -67,10 +66,8 @@ TEST(StartHand, ButtonBlindsFirstToActAndAClearedTable) {
     // clang-format off
     const std::tuple<std::vector<int32_t>, int, int32_t, const char*> rows[] = {
         {{10000, 10000, 10000, 10000, 10000, 10000, 10000, 10000}, 8, 100, "B1 S2 L3 C4 P3 n8 pot 300 H3/200 | 2:Small Blind: $100 2=9,900 3:Large Blind: $200 3=9,800"},
-        // Two players: the button posts the large blind and the small blind acts first.
-        {{5000, 0, 0, 0, 3000, 0, 0, 0}, 1, 100, "B5 S1 L5 C1 P5 n2 pot 300 H5/200 | 1:Small Blind: $100 1=4,900 5:Large Blind: $200 5=2,800"},
-        // Three players: the button acts first.
-        {{0, 4000, 0, 4000, 0, 0, 4000, 0}, 8, 100, "B2 S4 L7 C2 P7 n3 pot 300 H7/200 | 4:Small Blind: $100 4=3,900 7:Large Blind: $200 7=3,800"},
+        {{5000, 0, 0, 0, 3000, 0, 0, 0}, 1, 100, "B5 S1 L5 C1 P5 n2 pot 300 H5/200 | 1:Small Blind: $100 1=4,900 5:Large Blind: $200 5=2,800"},  // two: the button posts the large blind
+        {{0, 4000, 0, 4000, 0, 0, 4000, 0}, 8, 100, "B2 S4 L7 C2 P7 n3 pot 300 H7/200 | 4:Small Blind: $100 4=3,900 7:Large Blind: $200 7=3,800"},  // three: the button acts first
         {{4000, 0, 4000, 0, 0, 4000, 0, 4000}, 3, 100, "B6 S8 L1 C3 P1 n4 pot 300 H1/200 | 1:Large Blind: $200 1=3,800 8:Small Blind: $100 8=3,900"},
         {{10000, 0, 0, 10000, 0, 10000, 10000, 10000}, 1, 100, "B4 S6 L7 C8 P7 n5 pot 300 H7/200 | 6:Small Blind: $100 6=9,900 7:Large Blind: $200 7=9,800"},
         // Short blinds go all in and the full large blind still stands.
@@ -91,8 +88,7 @@ TEST(StartHand, ButtonBlindsFirstToActAndAClearedTable) {
     }
 }
 
-// Three players: the user all in for $1,000 on the button, re-raised to $2,000 and called, checked down;
-// Kings take the main pot, Queens the side pot.
+// The user all in for $1,000, re-raised to $2,000 and called, checked down: Kings main pot, Queens side pot.
 TEST(HandLog, TellsASidePotHandFromBlindsToPayments) {
     ScriptedPlatform p;
     Game g(p);
@@ -228,8 +224,7 @@ TEST(UserAction, OpeningTheTurnAndEachPress) {
     }
 }
 
-// Presses that cannot happen: a disabled or hidden button, an index out of
-// range, and any press with the sound off makes no click.
+// Presses that cannot happen (a disabled button, an index out of range), or with the sound off: no click.
 TEST(UserAction, IgnoredPressesAndSilence) {
     test::ScriptedPlatform p;
     Game g(p);

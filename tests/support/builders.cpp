@@ -9,9 +9,8 @@ namespace holdem::test {
 
 std::vector<int16_t> CardsOf(const std::string& names) {
     static const std::string kRanks = "23456789TJQKA", kSuits = "hsdc";
-    std::string packed;
-    for (char c : names)
-        if (c != ' ') packed += c;
+    std::string packed = names;
+    std::erase(packed, ' ');
     std::vector<int16_t> cards;
     for (std::size_t i = 0; i + 1 < packed.size(); i += 2) {
         auto rank = kRanks.find(packed[i]), suit = kSuits.find(packed[i + 1]);
@@ -154,12 +153,10 @@ void RunTimers(Game& g) {
 }
 
 HandCategory CategoryOfCode(int code) {
-    static const int kLast[] = {10, 23, 36, 37, 47, 60, 138, 151};
-    static const HandCategory kCategory[] = {StraightFlush, Quads, FullHouse, Flush,
-                                             Straight,      Trips, TwoPair,   Pair};
-    for (int i = 0; i < 8; ++i)
-        if (code <= kLast[i]) return kCategory[i];
-    return HighCard;
+    static const int kLast[] = {10, 23, 36, 37, 47, 60, 138, 151};  // of each class, straight flushes first
+    int i = 0;
+    while (i < 8 && code > kLast[i]) ++i;
+    return static_cast<HandCategory>(StraightFlush - i);
 }
 
 }  // namespace holdem::test

@@ -1,5 +1,4 @@
-// Builders for engine tests: cards by name, a seat or a table, the draws that deal chosen cards, the closing
-// checks. With GoogleTest and the scripted platform, all an engine test includes.
+// Builders for engine tests: cards by name, seats, tables, the draws that deal chosen cards, closing checks.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -25,8 +24,7 @@ std::vector<int16_t> CardsOf(const std::string& names);
 void SetBoard(Game& g, const std::string& cards);
 void SetHole(Game& g, int seat, const std::string& cards);
 
-// A seat in the hand (or out) with what it has left and has put in; RosterBank becomes the stack it began
-// with, PlayersInHand and Pot kept in step.
+// A seat in the hand (or out) with what it has left and has put in; RosterBank, PlayersInHand, Pot in step.
 void SeatPlayer(Game& g, int seat, float bankLeft, int32_t totalBet, int32_t bet = 0, bool inHand = true);
 
 // A field of `size`, nobody at the shown table, sound on, the hand-over timer running.

@@ -21,8 +21,7 @@
 using namespace holdem;
 
 namespace {
-// Seat 1 against seat 2: on the all-zero shuffle seat 2 has the button and a King-high straight flush in
-// diamonds over seat 1's Queen-high one; seat 2 checks, checks and calls.
+// Seat 2 has the button and a straight flush over seat 1's on the all-zero shuffle; it checks, checks, calls.
 void SetUpHeadsUp(frmMain& w) {
     Game& g = w.game;
     for (int s = 1; s <= kSeats; ++s)
@@ -53,14 +52,9 @@ void Shot(QWidget& form, const QString& name) {
         QVERIFY2(!l->isVisible() || l->fontMetrics().horizontalAdvance(l->text()) <= l->width(),
                  qPrintable(name + ": " + l->text()));
 }
-// n players numbered by line: the user "You" first and out last, "P5" far ahead, the rest on 10,000.
-std::string WriteStnd(const QString& path, int n) {
-    std::ofstream out(path.toStdString(), std::ios::binary);
-    out << n << ",12,3,200\r\n";
-    for (int p = 1; p <= n; ++p)
-        out << p % 7 << ",\"" << (p == 1 ? "You" : "P" + std::to_string(p)) << "\","
-            << (p == 5 ? 1234567 : 10000 * (p > 1)) << "," << (p == 1 ? n : 0) << "," << p << "\r\n";
-    return path.toStdString();
+QByteArray Read(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 // Opens the real forms; while each one's event loop runs, the due hand timer fires, then Escape.
 class FormsPlatform : public test::ScriptedPlatform {
@@ -269,30 +263,25 @@ private slots:
             for (const test::MessageCall& m : platform.messages)
                 QVERIFY(m.text == "Do you want to save the current game?" && m.title == "Exit" &&
                         m.icon == MsgIcon::Information && m.buttons == MsgButtons::YesNoCancel);
-            QFile saved(dir_.filePath("mine.sgf")), settings(dir_.filePath("settings.dft"));
-            const bool savedGame = saved.open(QIODevice::ReadOnly) &&
-                                   saved.readAll().startsWith("8," + QByteArray::number(hands) + ",3,");
-            const bool savedSettings =
-                settings.open(QIODevice::ReadOnly) && settings.readAll() == "3,#TRUE#,#TRUE#\r\n";
             QCOMPARE(
-                std::make_tuple(platform.messages.size(), quits, w.isVisible(), g.GameUnsaved, savedGame,
-                                savedSettings),
+                std::make_tuple(
+                    platform.messages.size(), quits, w.isVisible(), g.GameUnsaved,
+                    Read(dir_.filePath("mine.sgf")).startsWith("8," + QByteArray::number(hands) + ",3,"),
+                    Read(dir_.filePath("settings.dft")) == "3,#TRUE#,#TRUE#\r\n"),
                 std::make_tuple(std::size_t(asks), int(leaves), !leaves, unsaved && !saves, saves, leaves));
         }
     }
-    // Only digits get in, typed or pasted; Ctrl+A takes all. OK or Enter refuses, or closes with the
-    // amount and the $1,200 to call; Escape closes with none.
+    // Only digits get in; OK or Enter refuses, or closes with the amount and the $1,200 to call; Escape:
+    // none.
     void theBetDialogByKeys() {
         enum { OK, Enter, Escape };
+        // clang-format off
         const std::tuple<const char*, const char*, int, const char*, const char*, int> cases[] = {
             // pasted, typed, way out, left, message, amount
-            {"", "1a2-b.0 0x,", Enter, "1200", "", 2400},
-            {"", "", Enter, "", "No bet entered", -1},
-            {"", "0", OK, "", "No bet entered", -1},
-            {"", "150", OK, "150", "You must bet in multiples of $100.", -1},
-            {"", "8800", OK, "", "You've only got $9,900.", -1},
-            {"1200", "", Escape, "1200", "", 0},
-            {"87", "00", Enter, "8700", "", 9900}};
+            {"", "1a2-b.0 0x,", Enter, "1200", "", 2400}, {"", "", Enter, "", "No bet entered", -1}, {"", "0", OK, "", "No bet entered", -1},
+            {"", "150", OK, "150", "You must bet in multiples of $100.", -1}, {"", "8800", OK, "", "You've only got $9,900.", -1},
+            {"1200", "", Escape, "1200", "", 0}, {"87", "00", Enter, "8700", "", 9900}};
+        // clang-format on
         for (const auto& [pasted, typed, out, left, message, amount] : cases) {
             test::ScriptedPlatform platform;
             frmBetAmount form(BetAmountRequest{2, 1400, 1200, 9900}, platform);
@@ -310,8 +299,8 @@ private slots:
                      std::make_tuple(QString(left), std::string(message), amount < 0, std::max(amount, 0)));
         }
     }
-    // New game takes the focus on its first box and closes by a click on OK or by Enter.
-    void theOtherDialogs() {
+    // New game: the focus on its first box, closed by OK or Enter; the other forms; standings paged by keys.
+    void theOtherForms() {
         for (bool byEnter : {false, true}) {
             frmNewGame newGame(3);
             Activate(newGame);
@@ -338,10 +327,14 @@ private slots:
         QVERIFY(splash.isVisible() && splash.lblVersion->text() == "Version 1.1");
         QTest::keyClick(&splash, Qt::Key_Space);
         QVERIFY(!splash.isVisible() && !splash.timerSplash->isActive());
-    }
-    // A field of 1,000, the user out first: standings paged by clicks and keys; floor, tip and help forms.
-    void theFieldViews() {
-        const std::string stnd = WriteStnd(dir_.filePath("stnd.dat"), 1000);
+        // A field of 1,000 by line: the user "You" first and out last, "P5" far ahead, the rest on 10,000.
+        const std::string stnd = dir_.filePath("stnd.dat").toStdString();
+        std::ofstream out(stnd, std::ios::binary);
+        out << "1000,12,3,200\r\n";
+        for (int p = 1; p <= 1000; ++p)
+            out << p % 7 << ",\"" << (p == 1 ? "You" : "P" + std::to_string(p)) << "\","
+                << (p == 5 ? 1234567 : 10000 * (p > 1)) << "," << (p == 1 ? 1000 : 0) << "," << p << "\r\n";
+        out.close();
         frmRankings standings(stnd);
         Activate(standings);
         Shot(standings, "form_standings");
@@ -421,12 +414,11 @@ private slots:
     }
     // Pictures drawn at twice the listed size; hearts 1-13 and diamonds 27-39 red; each arrow points its way.
     void picturesAndSounds() {
-        QList<QPair<QString, QSize>> pictures = {
-            {"table", {757, 527}},    {"table_winner", {758, 517}}, {"arrow_right", {34, 16}},
-            {"arrow_left", {34, 16}}, {"dealer", {34, 34}},         {"card_back", {73, 97}},
-            {"logo", {109, 108}},     {"icon", {48, 48}},           {"tip", {32, 32}},
-            {"help1", {401, 478}},    {"help2", {397, 425}},        {"rules1", {406, 365}},
-            {"rules2", {402, 407}}};
+        // clang-format off
+        QList<QPair<QString, QSize>> pictures = {{"table", {757, 527}}, {"table_winner", {758, 517}}, {"arrow_right", {34, 16}},
+            {"arrow_left", {34, 16}}, {"dealer", {34, 34}}, {"card_back", {73, 97}}, {"logo", {109, 108}}, {"icon", {48, 48}},
+            {"tip", {32, 32}}, {"help1", {401, 478}}, {"help2", {397, 425}}, {"rules1", {406, 365}}, {"rules2", {402, 407}}};
+        // clang-format on
         for (int card = 1; card <= 52; ++card)
             pictures.append({QString("card_%1").arg(card, 2, 10, QChar('0')), {69, 94}});
         for (const auto& [name, size] : pictures) {
@@ -453,9 +445,8 @@ private slots:
             {"THREEMOVED", 44100, 2.542},  {"FOURMOVED", 44100, 2.586}, {"FIVEMOVED", 44100, 2.728},
             {"SIXMOVED", 44100, 2.299},    {"GAMEOVER", 44100, 3.483},  {"WIN", 44100, 4.621}};
         for (const auto& [name, rate, length] : sounds) {
-            QFile file(QString::fromStdString(Here()) + "sounds/" + name + ".wav");
-            QVERIFY2(file.open(QIODevice::ReadOnly), name);
-            const QByteArray bytes = file.readAll(), fmt = bytes.mid(bytes.indexOf("fmt ") + 8, 16);
+            const QByteArray bytes = Read(QString::fromStdString(Here()) + "sounds/" + name + ".wav"),
+                             fmt = bytes.mid(bytes.indexOf("fmt ") + 8, 16);
             const QByteArray samples = bytes.mid(bytes.indexOf("data") + 8);
             const auto u16 = [&](int at) { return qFromLittleEndian<quint16>(fmt.constData() + at); };
             QCOMPARE(
