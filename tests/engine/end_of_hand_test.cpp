@@ -7,12 +7,10 @@ namespace holdem {
 namespace {
 
 TEST(EndOfHand, BlindsByPlayersLeftAtEveryBoundary) {
-    // Per size, from the top: n above the first figure plays the second.
-    const std::pair<int16_t, const char*> tables[] = {
-        {8, "6:100 4:200 3:400 2:600 0:1000"},
-        {80, "60:100 50:200 40:400 30:600 20:800 10:1000 5:2000 3:4000 0:8000"},
+    // clang-format off
+    const std::pair<int16_t, const char*> tables[] = {  // per size, from the top: n above the first figure plays the second
+        {8, "6:100 4:200 3:400 2:600 0:1000"}, {80, "60:100 50:200 40:400 30:600 20:800 10:1000 5:2000 3:4000 0:8000"},
         {200, "160:100 120:200 80:400 60:600 50:800 40:1000 30:1500 20:2000 10:4000 5:7000 3:10000 0:15000"},
-        // clang-format off
         {1000, "900:100 800:200 700:400 600:600 500:800 400:1000 300:1500 200:2000 100:4000 50:7000 30:10000 15:15000 7:20000 3:25000 0:35000"}};
     // clang-format on
     test::ScriptedPlatform p;

@@ -82,12 +82,6 @@ void SeatField(Game& g, const std::string& map, int size) {
     }
 }
 
-std::vector<int> TableCounts(const Game& g, int tables) {
-    std::vector<int> counts(tables, 0);
-    for (int p = 1; p <= tables * kSeats; ++p) counts[TableOf(p) - 1] += g.RosterBank[p] > 0;
-    return counts;
-}
-
 // Every record once, with its own name, chips and place; tags unmoved; the user at 1.
 void ExpectPermutation(const Game& g, int size) {
     std::vector<int> seen(size + 1, 0);
@@ -137,10 +131,12 @@ TEST(Balance, Outcomes) {
             g.view.mnuSound.checked = sound;
             g.view.lblGoodLuck.text = "Good Luck!";
             g.BalanceTables();
+            std::vector<int> counts((std::string(r.before).size() + 1) / 9);  // players by table
+            for (int p = 1; p <= static_cast<int>(counts.size()) * kSeats; ++p)
+                counts[TableOf(p) - 1] += g.RosterBank[p] > 0;
             std::string out;
             int left = 0, inPlay = 0;
-            for (int c : TableCounts(g, static_cast<int>(std::string(r.before).size() + 1) / 9))
-                out += std::to_string(c) + " ", left += c, inPlay += c > 0;
+            for (int c : counts) out += std::to_string(c) + " ", left += c, inPlay += c > 0;
             EXPECT_EQ(g.PlayersLeft * 1000 + g.TablesInPlay, left * 1000 + inPlay);
             ExpectPermutation(g, 80);
             for (const auto& s : p.sounds) out += s + " ";

@@ -1,8 +1,5 @@
 #include "tests/support/builders.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <stdexcept>
 
 namespace holdem::test {
@@ -55,13 +52,11 @@ void EmptyTable(Game& g, int16_t size) {
 void RankRiver(Game& g) { g.CardsKnown = 7, g.RankHands(); }
 
 void SeatTable(Game& g, const std::vector<int32_t>& banks, int button, int32_t smallBlind) {
-    int s = 0, players = 0;
-    for (int32_t bank : banks) {
-        ++s;
-        g.RosterNumber[s] = static_cast<int16_t>(s);
+    int players = 0;
+    for (int s = 1; s <= static_cast<int>(banks.size()); ++s) {
+        g.RosterNumber[s] = static_cast<int16_t>(s), g.RosterBank[s] = banks[s - 1];
         g.RosterName[s] = g.SeatName[s] = s == 1 ? "You" : "Player " + std::to_string(s);
-        g.RosterBank[s] = bank;
-        players += bank > 0;
+        players += banks[s - 1] > 0;
     }
     std::tie(g.ButtonSeat, g.SmallBlind, g.TournamentSize, g.PlayersLeft, g.TablesInPlay,
              g.view.mnuSound.checked) =

@@ -42,15 +42,12 @@ std::vector<float> Draws(std::initializer_list<std::vector<float>> parts);
 
 // A game's figures, roster, seats, shown elements, timers and log as text, to compare two runs or moments.
 std::string StateText(const Game& g);
-// Every scripted draw taken and none beyond; the state's invariants hold.
-void ExpectSettled(const Game& g);
-// Fires the running timer until none runs: the rest of the hand as the window would play it.
-void RunTimers(Game& g);
+void ExpectSettled(const Game& g);  // every scripted draw taken, none beyond; state_is_ok
+void RunTimers(Game& g);            // fires the running timer until none runs
 
 // The nine classes of poker hands, weakest first, and the class of a code.
-// clang-format off
-enum HandCategory { HighCard, Pair, TwoPair, Trips, Straight, Flush, FullHouse, Quads, StraightFlush, kCategories };
-// clang-format on
+enum HandCategory { HighCard, Pair, TwoPair, Trips, Straight, Flush, FullHouse, Quads, StraightFlush };
+constexpr int kCategories = StraightFlush + 1;
 HandCategory CategoryOfCode(int code);
 
 }  // namespace holdem::test

@@ -21,6 +21,29 @@
 using namespace holdem;
 
 namespace {
+// clang-format off
+const std::tuple<Qt::Key, bool, QString> kKeys[] = {  // key, on the flop, lblBet(1) after the press
+    {Qt::Key_C, false, "Called $100"}, {Qt::Key_F, false, "Folded"}, {Qt::Key_B, false, "Amount to Call: $100"},
+    {Qt::Key_H, true, "Checked"}, {Qt::Key_Space, true, "Folded"}};  // Space on Fold, moved there
+const int no = int(MsgAnswer::No), yes = int(MsgAnswer::Yes), cancel = int(MsgAnswer::Cancel);
+const int kExits[][8] = {  // close box, user's bank, hands, unsaved, ended, players left, answer, asks
+    {0, 5000, 2, 1, 0, 8, no, 1}, {1, 5000, 2, 1, 0, 8, no, 1}, {1, 5000, 1, 1, 0, 8, no, 0}, {0, 5000, 5, 0, 0, 8, no, 0},
+    {1, 0, 5, 1, 1, 8, no, 0}, {0, 5000, 5, 1, 1, 8, no, 0}, {1, 5000, 5, 1, 1, 8, no, 1}, {0, 80000, 5, 1, 0, 1, no, 1},
+    {1, 80000, 5, 1, 0, 1, no, 0}, {0, 5000, 2, 1, 0, 8, cancel, 1}, {1, 5000, 2, 1, 0, 8, cancel, 1}, {0, 5000, 2, 1, 0, 8, yes, 1}};
+enum { OK, Enter, Escape };  // the bet dialog's ways out
+const std::tuple<const char*, const char*, int, const char*, const char*, int> kBetKeys[] = {
+    // pasted, typed, way out, left, message, amount
+    {"", "1a2-b.0 0x,", Enter, "1200", "", 2400}, {"", "", Enter, "", "No bet entered", -1}, {"", "0", OK, "", "No bet entered", -1},
+    {"", "150", OK, "150", "You must bet in multiples of $100.", -1}, {"", "8800", OK, "", "You've only got $9,900.", -1},
+    {"1200", "", Escape, "1200", "", 0}, {"87", "00", Enter, "8700", "", 9900}};
+const std::tuple<const char*, QSize, qreal, bool> kScenes[] = {  // name, client area, scale, showdown
+    {"as_laid_out_dealing", {755, 508}, 1.0, false}, {"as_laid_out_showdown", {755, 508}, 1.0, true},
+    {"wide_showdown", {1400, 800}, 800 / 508.0, true}, {"twice_dealing", {1510, 1016}, 2.0, false},
+    {"smaller_than_laid_out", {600, 400}, 1.0, true}};
+const QList<QPair<QString, QSize>> kPictures = {{"table", {757, 527}}, {"table_winner", {758, 517}}, {"arrow_right", {34, 16}},
+    {"arrow_left", {34, 16}}, {"dealer", {34, 34}}, {"card_back", {73, 97}}, {"logo", {109, 108}}, {"icon", {48, 48}},
+    {"tip", {32, 32}}, {"help1", {401, 478}}, {"help2", {397, 425}}, {"rules1", {406, 365}}, {"rules2", {402, 407}}};
+// clang-format on
 // Seat 2 has the button and a straight flush over seat 1's on the all-zero shuffle; it checks, checks, calls.
 void SetUpHeadsUp(frmMain& w) {
     Game& g = w.game;
@@ -165,12 +188,7 @@ private slots:
         Shot(w, "window_showdown");
     }
     void accessKeysBetweenHandsAndDuringTheTurn() {
-        // clang-format off
-        const std::tuple<Qt::Key, bool, QString> cases[] = {  // key, on the flop, lblBet(1) after the press
-            {Qt::Key_C, false, "Called $100"}, {Qt::Key_F, false, "Folded"}, {Qt::Key_B, false, "Amount to Call: $100"},
-            {Qt::Key_H, true, "Checked"}, {Qt::Key_Space, true, "Folded"}};  // Space on Fold, moved there
-        // clang-format on
-        for (const auto& [key, onTheFlop, words] : cases) {
+        for (const auto& [key, onTheFlop, words] : kKeys) {
             test::ScriptedPlatform platform;
             frmMain w(Here(), &platform);
             SetUpHeadsUp(w);
@@ -233,15 +251,7 @@ private slots:
     }
     // Which exits ask, by the way out and the state of the game, and what each answer does.
     void theExitQuestion() {
-        const int no = int(MsgAnswer::No), yes = int(MsgAnswer::Yes), cancel = int(MsgAnswer::Cancel);
-        const int cases[][8] = {// close box, user's bank, hands, unsaved, ended, players left, answer, asks
-                                {0, 5000, 2, 1, 0, 8, no, 1},     {1, 5000, 2, 1, 0, 8, no, 1},
-                                {1, 5000, 1, 1, 0, 8, no, 0},     {0, 5000, 5, 0, 0, 8, no, 0},
-                                {1, 0, 5, 1, 1, 8, no, 0},        {0, 5000, 5, 1, 1, 8, no, 0},
-                                {1, 5000, 5, 1, 1, 8, no, 1},     {0, 80000, 5, 1, 0, 1, no, 1},
-                                {1, 80000, 5, 1, 0, 1, no, 0},    {0, 5000, 2, 1, 0, 8, cancel, 1},
-                                {1, 5000, 2, 1, 0, 8, cancel, 1}, {0, 5000, 2, 1, 0, 8, yes, 1}};
-        for (const auto& [closeBox, userBank, hands, unsaved, ended, left, answer, asks] : cases) {
+        for (const auto& [closeBox, userBank, hands, unsaved, ended, left, answer, asks] : kExits) {
             for (const char* file : {"settings.dft", "mine.sgf"}) QFile::remove(dir_.filePath(file));
             test::ScriptedPlatform platform;
             frmMain w(dir_.path().toStdString() + "/", &platform);
@@ -271,18 +281,9 @@ private slots:
                 std::make_tuple(std::size_t(asks), int(leaves), !leaves, unsaved && !saves, saves, leaves));
         }
     }
-    // Only digits get in; OK or Enter refuses, or closes with the amount and the $1,200 to call; Escape:
-    // none.
+    // Only digits get in; OK or Enter refuses, or closes with the amount and $1,200 to call; Escape: none.
     void theBetDialogByKeys() {
-        enum { OK, Enter, Escape };
-        // clang-format off
-        const std::tuple<const char*, const char*, int, const char*, const char*, int> cases[] = {
-            // pasted, typed, way out, left, message, amount
-            {"", "1a2-b.0 0x,", Enter, "1200", "", 2400}, {"", "", Enter, "", "No bet entered", -1}, {"", "0", OK, "", "No bet entered", -1},
-            {"", "150", OK, "150", "You must bet in multiples of $100.", -1}, {"", "8800", OK, "", "You've only got $9,900.", -1},
-            {"1200", "", Escape, "1200", "", 0}, {"87", "00", Enter, "8700", "", 9900}};
-        // clang-format on
-        for (const auto& [pasted, typed, out, left, message, amount] : cases) {
+        for (const auto& [pasted, typed, out, left, message, amount] : kBetKeys) {
             test::ScriptedPlatform platform;
             frmBetAmount form(BetAmountRequest{2, 1400, 1200, 9900}, platform);
             Shot(form, "form_bet_amount");
@@ -379,13 +380,7 @@ private slots:
         QVERIFY(help.Page() == 2 && help.cmdPrevious->isEnabled() && !help.cmdNext->isEnabled());
     }
     void theSceneScalesAndNoTextCoversAnother() {
-        // clang-format off
-        const std::tuple<const char*, QSize, qreal, bool> cases[] = {  // name, client area, scale, showdown
-            {"as_laid_out_dealing", {755, 508}, 1.0, false}, {"as_laid_out_showdown", {755, 508}, 1.0, true},
-            {"wide_showdown", {1400, 800}, 800 / 508.0, true}, {"twice_dealing", {1510, 1016}, 2.0, false},
-            {"smaller_than_laid_out", {600, 400}, 1.0, true}};
-        // clang-format on
-        for (const auto& [name, client, scale, showdown] : cases) {
+        for (const auto& [name, client, scale, showdown] : kScenes) {
             test::ScriptedPlatform platform;
             frmMain w(Here(), &platform);
             w.show();
@@ -414,11 +409,7 @@ private slots:
     }
     // Pictures drawn at twice the listed size; hearts 1-13 and diamonds 27-39 red; each arrow points its way.
     void picturesAndSounds() {
-        // clang-format off
-        QList<QPair<QString, QSize>> pictures = {{"table", {757, 527}}, {"table_winner", {758, 517}}, {"arrow_right", {34, 16}},
-            {"arrow_left", {34, 16}}, {"dealer", {34, 34}}, {"card_back", {73, 97}}, {"logo", {109, 108}}, {"icon", {48, 48}},
-            {"tip", {32, 32}}, {"help1", {401, 478}}, {"help2", {397, 425}}, {"rules1", {406, 365}}, {"rules2", {402, 407}}};
-        // clang-format on
+        QList<QPair<QString, QSize>> pictures = kPictures;
         for (int card = 1; card <= 52; ++card)
             pictures.append({QString("card_%1").arg(card, 2, 10, QChar('0')), {69, 94}});
         for (const auto& [name, size] : pictures) {
