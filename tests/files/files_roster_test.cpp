@@ -281,22 +281,10 @@ TEST(NewGameChoicesTest, MapTheListsToTheGame) {
     EXPECT_EQ(PlayerNameFor("") + "|" + PlayerNameFor(" ") + "|" + PlayerNameFor("Ann"), "Player 1| |Ann");
 }
 
-class NewGameTest : public FileTest {
-protected:
-    void SetUp() override {
-        FileTest::SetUp();
-        WriteAll(dir.File("gamedata.dat"), RosterText(1000, 0, 1, 100, FieldLines(200)));
-    }
-    // A slow tournament of 80 with no name given, from the draws of a first hand.
-    void Choose(bool cancel) {
-        p.newGames.assign(1, {cancel, "Tournament", "80", "Fast"});
-        p.playerNames.assign(1, "");
-        g.rnd.Script(LoadDraws({0.0f, 0.0f, 0.0f}));
-    }
-};
-
-// The game in play is a slow game of 8 by Ann, some hands in, its file named, a hand running.
-TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
+// The game in play is a slow game of 8 by Ann, some hands in, its file named, a hand running; the new one a
+// fast tournament of 80 with no name given.
+TEST_F(RosterTest, TheQuestionsBeforeANewGameAndWhatFollows) {
+    WriteAll(dir.File("gamedata.dat"), RosterText(1000, 0, 1, 100, FieldLines(200)));
     using A = MsgAnswer;
     const char *const kStart = "Start New Game?", *const kSave = "Save Existing Game?";
     // clang-format off
@@ -327,7 +315,9 @@ TEST_F(NewGameTest, TheQuestionsBeforeANewGameAndWhatFollows) {
         p.messages.clear();
         p.answers.assign(c.answers.begin(), c.answers.end());
         const std::size_t dialogs = p.newGameSpeeds.size();
-        Choose(c.cancelDialog);
+        p.newGames.assign(1, {c.cancelDialog, "Tournament", "80", "Fast"});
+        p.playerNames.assign(1, "");
+        g.rnd.Script(LoadDraws({0.0f, 0.0f, 0.0f}));
         g.mnuNew_Click();
         std::vector<std::string> texts;
         for (const auto& m : p.messages) {

@@ -87,7 +87,8 @@ protected:
                        MsgIcon icon = MsgIcon::Exclamation) {
         ASSERT_EQ(p.messages.size(), 1u);
         const MessageCall& m = p.messages[0];
-        EXPECT_EQ(std::tie(m.text, m.title, m.icon, m.buttons), std::tie(text, title, icon, MsgButtons::OK));
+        EXPECT_EQ(std::tie(m.text, m.title, m.icon, m.buttons),
+                  std::make_tuple(text, title, icon, MsgButtons::OK));
         p.messages.clear();
     }
 };

@@ -67,9 +67,13 @@ TimerId RunningTimer(const frmMain& w) {
     return static_cast<TimerId>(count == 1 ? found : kTimerCount);
 }
 bool Shows(QWidget* w) { return w->isVisibleTo(w->window()); }
-// Shown and saved beside the test program, to be looked at; no visible label cuts its text.
+void Activate(QWidget& w) {
+    w.show(), w.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&w));
+}
+// Shown, active, and saved beside the test program, to be looked at; no visible label cuts its text.
 void Shot(QWidget& form, const QString& name) {
-    form.show();
+    Activate(form);
     QVERIFY(form.grab().save(QCoreApplication::applicationDirPath() + "/" + name + ".png"));
     for (QLabel* l : form.findChildren<QLabel*>())
         QVERIFY2(!l->isVisible() || l->fontMetrics().horizontalAdvance(l->text()) <= l->width(),
@@ -102,10 +106,6 @@ public:
 std::string Here() { return QCoreApplication::applicationDirPath().toStdString() + "/"; }
 bool FocusOnAButton() { return qobject_cast<QPushButton*>(QApplication::focusWidget()); }
 QString MenuTitles(frmMain& w) { return w.mnuSettings->title() + w.mnuFile->title() + w.mnuHelp->title(); }
-void Activate(QWidget& w) {
-    w.show(), w.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&w));
-}
 void Tick(frmMain& w, TimerId id, int times = 1) {
     for (int k = 0; k < times; ++k)
         QVERIFY2(RunningTimer(w) == id && (w.TimerTick(id), true), qPrintable(QString::number(id)));
@@ -281,8 +281,8 @@ private slots:
                 std::make_tuple(std::size_t(asks), int(leaves), !leaves, unsaved && !saves, saves, leaves));
         }
     }
-    // Only digits get in; OK or Enter refuses, or closes with the amount and $1,200 to call; Escape: none.
-    void theBetDialogByKeys() {
+    // The bet dialog takes digits only; OK or Enter refuses, or closes with the amount and $1,200 to call.
+    void theForms() {
         for (const auto& [pasted, typed, out, left, message, amount] : kBetKeys) {
             test::ScriptedPlatform platform;
             frmBetAmount form(BetAmountRequest{2, 1400, 1200, 9900}, platform);
@@ -299,12 +299,9 @@ private slots:
                                      form.isVisible(), form.BetAmount),
                      std::make_tuple(QString(left), std::string(message), amount < 0, std::max(amount, 0)));
         }
-    }
-    // New game: the focus on its first box, closed by OK or Enter; the other forms; standings paged by keys.
-    void theOtherForms() {
+        // New game: the focus on its first box, closed by OK or Enter; the other forms; standings by keys.
         for (bool byEnter : {false, true}) {
             frmNewGame newGame(3);
-            Activate(newGame);
             Shot(newGame, "form_new_game");
             QVERIFY(newGame.focusWidget() == newGame.cbGameType && newGame.cbSpeed->currentText() == "Slow" &&
                     !newGame.cbPlayers->isEnabled());
@@ -337,7 +334,6 @@ private slots:
                 << (p == 5 ? 1234567 : 10000 * (p > 1)) << "," << (p == 1 ? 1000 : 0) << "," << p << "\r\n";
         out.close();
         frmRankings standings(stnd);
-        Activate(standings);
         Shot(standings, "form_standings");
         QCOMPARE(standings.lblName[1]->text() + standings.lblBank[1]->text() + "|" +
                      standings.lblRank[26]->text() + standings.lblBank[26]->text(),
