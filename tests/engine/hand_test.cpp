@@ -225,10 +225,28 @@ TEST(UserAction, OpeningTheTurnAndEachPress) {
     }
 }
 
+// clang-format off
+const BetAmountRequest raise{4, 600, 600, 5050}, bet{0, 0, 0, 3000}, checked{3, 0, 0, 3000}, rich{2, 2'000'000'000, 2'000'000'000, 2'147'483'000};
+const char* const kHundreds = "You must bet in multiples of $100.|0|1 Texas Hold'em";
+const char* const kStack = "|1|1 Bet Exceeds Your Chip Stack";
+const struct BetRow { const BetAmountRequest& request; const char* text; bool enter; std::string outcome; /* closes with BetAmount, or message|clears the text|icon */ } kBetTexts[] = {
+    {raise, "", false, "No bet entered|1|0 Texas Hold'em"}, {raise, "0", false, "No bet entered|1|0 Texas Hold'em"},
+    {raise, "000", false, "No bet entered|1|0 Texas Hold'em"}, {raise, "", true, "No bet entered|0|0 Texas Hold'em"},
+    {raise, "0", true, "close 0"}, {raise, "150", false, kHundreds}, {raise, "50", false, kHundreds},
+    {raise, "1", false, kHundreds}, {raise, "4450", false, kHundreds}, {raise, "1001", false, kHundreds},
+    {raise, "250", true, kHundreds}, {raise, "100", false, "close 700"}, {raise, "4400", false, "close 5000"},
+    {raise, "200", true, "close 800"}, {bet, "3000", false, "close 3000"}, {bet, "0100", false, "close 100"},
+    {checked, "500", false, "close 500"}, {bet, "-100", false, kHundreds}, {bet, "1e3", false, kHundreds},
+    {bet, "1,000", false, kHundreds}, {bet, " 100", false, kHundreds}, {bet, "abc", false, kHundreds},
+    {bet, "99999999999999999999999999999950", false, kHundreds}, {rich, "2147483600", false, std::string("You've only got $2,147,483,000.") + kStack},
+    {raise, "4500", false, std::string("You've only got $5,050.") + kStack}, {raise, "9900", true, std::string("You've only got $5,050.") + kStack},
+    {bet, "3100", false, std::string("You've only got $3,000.") + kStack}, {bet, "2147483700", false, std::string("You've only got $3,000.") + kStack},
+    {bet, "99999999999999999999999999999900", false, std::string("You've only got $3,000.") + kStack},
+};
+// clang-format on
+
 // The dialog opens in raise or bet mode, takes digits and line keys only, and OK or Enter check the amount.
 TEST(BetAmount, OpensTakesKeysAndChecksTheAmount) {
-    const BetAmountRequest raise{4, 600, 600, 5050}, bet{0, 0, 0, 3000}, checked{3, 0, 0, 3000},
-        rich{2, 2'000'000'000, 2'000'000'000, 2'147'483'000};
     const BetAmountLayout up = BetAmountOpen(raise),
                           first = BetAmountOpen(BetAmountRequest{0, 0, 0, 1234567});
     EXPECT_EQ(up.title + "|" + up.lblBetAmount + "|" + up.lblToCallAmount + "|" + up.lblMaxRaise + "|" +
@@ -242,25 +260,7 @@ TEST(BetAmount, OpensTakesKeysAndChecksTheAmount) {
     for (int c = 0; c < 128; ++c)
         if (BetAmountKeyAllowed(static_cast<char>(c))) allowed += static_cast<char>(c);
     EXPECT_EQ(allowed, "\b\r0123456789");
-    const char* const kHundreds = "You must bet in multiples of $100.|0|1 Texas Hold'em";
-    const char* const kStack = "|1|1 Bet Exceeds Your Chip Stack";
-    // clang-format off
-    struct Row { const BetAmountRequest& request; const char* text; bool enter; std::string outcome; /* closes with BetAmount, or message|clears the text|icon */ } rows[] = {
-        {raise, "", false, "No bet entered|1|0 Texas Hold'em"}, {raise, "0", false, "No bet entered|1|0 Texas Hold'em"},
-        {raise, "000", false, "No bet entered|1|0 Texas Hold'em"}, {raise, "", true, "No bet entered|0|0 Texas Hold'em"},
-        {raise, "0", true, "close 0"}, {raise, "150", false, kHundreds}, {raise, "50", false, kHundreds},
-        {raise, "1", false, kHundreds}, {raise, "4450", false, kHundreds}, {raise, "1001", false, kHundreds},
-        {raise, "250", true, kHundreds}, {raise, "100", false, "close 700"}, {raise, "4400", false, "close 5000"},
-        {raise, "200", true, "close 800"}, {bet, "3000", false, "close 3000"}, {bet, "0100", false, "close 100"},
-        {checked, "500", false, "close 500"}, {bet, "-100", false, kHundreds}, {bet, "1e3", false, kHundreds},
-        {bet, "1,000", false, kHundreds}, {bet, " 100", false, kHundreds}, {bet, "abc", false, kHundreds},
-        {bet, "99999999999999999999999999999950", false, kHundreds}, {rich, "2147483600", false, std::string("You've only got $2,147,483,000.") + kStack},
-        {raise, "4500", false, std::string("You've only got $5,050.") + kStack}, {raise, "9900", true, std::string("You've only got $5,050.") + kStack},
-        {bet, "3100", false, std::string("You've only got $3,000.") + kStack}, {bet, "2147483700", false, std::string("You've only got $3,000.") + kStack},
-        {bet, "99999999999999999999999999999900", false, std::string("You've only got $3,000.") + kStack},
-    };
-    // clang-format on
-    for (const Row& r : rows) {
+    for (const BetRow& r : kBetTexts) {
         BetAmountOutcome out = r.enter ? BetAmountEnter(r.request, r.text) : BetAmountOk(r.request, r.text);
         std::string got = out.close ? "close " + std::to_string(out.betAmount) : "";
         if (out.message)

@@ -175,8 +175,7 @@ TEST_F(SafetyTest, CancelsAndFailedSavesKeepThePathTheFlagAndTheOldFile) {
     EXPECT_TRUE(p.messages.empty() && !g.GameUnsaved && !std::filesystem::exists(leftover));
     const std::string saved = ReadAll(g.SavedGamePath);
     chmod(g.SavedGamePath.c_str(), 0444);
-    g.HandsPlayed = 9;
-    g.GameUnsaved = true;
+    g.HandsPlayed = 9, g.GameUnsaved = true;
     g.SaveGame();
     EXPECT_EQ(p.messages.at(0).text, "There was an error saving the game.\nCannot replace " +
                                          g.SavedGamePath + ": the file is read-only.");

@@ -43,6 +43,10 @@ const std::tuple<const char*, QSize, qreal, bool> kScenes[] = {  // name, client
 const QList<QPair<QString, QSize>> kPictures = {{"table", {757, 527}}, {"table_winner", {758, 517}}, {"arrow_right", {34, 16}},
     {"arrow_left", {34, 16}}, {"dealer", {34, 34}}, {"card_back", {73, 97}}, {"logo", {109, 108}}, {"icon", {48, 48}},
     {"tip", {32, 32}}, {"help1", {401, 478}}, {"help2", {397, 425}}, {"rules1", {406, 365}}, {"rules2", {402, 407}}};
+const std::tuple<const char*, int, double> kSounds[] = {  // name, rate, seconds
+    {"BUTTONCLICK", 22050, 0.049}, {"DEAL", 44100, 0.178}, {"WONHAND", 44100, 0.513}, {"LOSTHAND", 44100, 0.198},
+    {"MOVED", 44100, 1.683}, {"TWOMOVED", 44100, 2.981}, {"THREEMOVED", 44100, 2.542}, {"FOURMOVED", 44100, 2.586},
+    {"FIVEMOVED", 44100, 2.728}, {"SIXMOVED", 44100, 2.299}, {"GAMEOVER", 44100, 3.483}, {"WIN", 44100, 4.621}};
 // clang-format on
 // Seat 2 has the button and a straight flush over seat 1's on the all-zero shuffle; it checks, checks, calls.
 void SetUpHeadsUp(frmMain& w) {
@@ -426,12 +430,7 @@ private slots:
             if (name.startsWith("arrow")) QVERIFY2(rightHeavy == name.endsWith("right"), qPrintable(name));
         }
         // Sounds: plain 16-bit mono PCM at its rate, of about its length, and not next to silent.
-        const std::tuple<const char*, int, double> sounds[] = {
-            {"BUTTONCLICK", 22050, 0.049}, {"DEAL", 44100, 0.178},      {"WONHAND", 44100, 0.513},
-            {"LOSTHAND", 44100, 0.198},    {"MOVED", 44100, 1.683},     {"TWOMOVED", 44100, 2.981},
-            {"THREEMOVED", 44100, 2.542},  {"FOURMOVED", 44100, 2.586}, {"FIVEMOVED", 44100, 2.728},
-            {"SIXMOVED", 44100, 2.299},    {"GAMEOVER", 44100, 3.483},  {"WIN", 44100, 4.621}};
-        for (const auto& [name, rate, length] : sounds) {
+        for (const auto& [name, rate, length] : kSounds) {
             const QByteArray bytes = Read(QString::fromStdString(Here()) + "sounds/" + name + ".wav"),
                              fmt = bytes.mid(bytes.indexOf("fmt ") + 8, 16);
             const QByteArray samples = bytes.mid(bytes.indexOf("data") + 8);
