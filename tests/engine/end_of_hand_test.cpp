@@ -197,8 +197,7 @@ TEST(EndOfHand, PotBreakdownLiveThenSnapshot) {
 // Paying the shown table: finish order, stake levels, layers, odd hundreds, marks, sound, pause, check.
 constexpr int32_t kStart = 10000;
 
-// Seats "2:1000:AhAd" (no cards: folded) stake from 10,000 over no board; tells "seat:paid", ">" arrows,
-// sounds.
+// Seats "2:1000:AhAd" (no cards: folded) stake from 10,000 over no board; tells "seat:paid", ">" arrows.
 std::string Settle(const std::string& stakes, bool sound = true) {
     test::ScriptedPlatform p;
     Game g(p);

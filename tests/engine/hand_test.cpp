@@ -1,5 +1,4 @@
-// StartHand, a whole hand as the log tells it; the user's turn, its four presses and refusals; the bet
-// dialog.
+// StartHand, a whole hand as the log tells it; the user's turn, its presses and refusals; the bet dialog.
 #include "engine/bet_amount.h"
 #include "files/statistics.h"
 #include "tests/support/builders.h"
@@ -55,8 +54,7 @@ const Turn kTurns[] = {
 };
 // clang-format on
 
-// StartHand on the all-zero shuffle clears an earlier hand; tells the seats, pot, high bet, bets, changed
-// stacks.
+// StartHand on the all-zero shuffle clears an earlier hand; tells seats, pot, high bet, bets, stacks.
 std::string Start(Game& g, const std::vector<int32_t>& banks, int button, int32_t blind) {
     for (int s = 1; s <= kSeats; ++s) {
         g.SeatRaised[s] = g.view.lblPaid[s].visible = g.view.iArrow[s].visible = true;

@@ -1,6 +1,5 @@
-// Money and rounding, the random source, and seeded games checked after every step and hand (chips, one
-// timer, the roster, places 1..N, balanced tables, no closing check); a field the user left plays out to its
-// winner.
+// Money, rounding, the random source; seeded games checked after every step and hand (chips, one timer, the
+// roster, places 1..N, balanced tables, no closing check); a field the user left plays out to its winner.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -91,8 +90,7 @@ bool CheckPlayOut(Game& g, int players) {
     return stopped;
 }
 
-// Every policy and size, with the log and without; signatures of every hand and of the log pin draws and
-// moves.
+// Every policy and size, with the log and without; signatures of every hand and of the log pin the play.
 TEST(Property, SeededGamesPlayCleanAndRepeatExactly) {
     const std::tuple<int, Policy, uint64_t, uint64_t> runs[] = {
         {8, Policy::Rule, 1, 200},     {8, Policy::Caller, 201, 240}, {8, Policy::Folder, 241, 280},

@@ -100,8 +100,7 @@ protected:
     Game g{p};
 };
 
-// Every five-card hand as the reference, by class and by code; on the flop high cards split by the draw
-// rules.
+// Every five-card hand as the reference, by class and by code; high cards split by the draw rules.
 TEST(RankFast, EveryFiveCardHandAsTheReferenceByCode) {
     Twin t;
     std::array<int64_t, 201> byCode{};
