@@ -6,15 +6,37 @@
 namespace holdem {
 namespace {
 
+// clang-format off
+const std::pair<int16_t, const char*> kBlinds[] = {  // per size, from the top: n above the first figure plays the second
+    {8, "6:100 4:200 3:400 2:600 0:1000"}, {80, "60:100 50:200 40:400 30:600 20:800 10:1000 5:2000 3:4000 0:8000"},
+    {200, "160:100 120:200 80:400 60:600 50:800 40:1000 30:1500 20:2000 10:4000 5:7000 3:10000 0:15000"},
+    {1000, "900:100 800:200 700:400 600:600 500:800 400:1000 300:1500 200:2000 100:4000 50:7000 30:10000 15:15000 7:20000 3:25000 0:35000"}};
+// Settle(): each row's stakes and what is paid, shown and heard.
+const std::pair<const char*, const char*> kSettles[] = {
+    {"2:1000:AhAd 3:5000:KhKd 4:5000:QhQd", "2:3,000 3:8,000 >2 Aces Kings Queens LOSTHAND"},  // Layer1 3,000, Layer2 8,000
+    {"2:1000:AhAd 3:5000:KhKd 4:300", "2:2,300 3:4,000 >2 Aces Kings LOSTHAND"},  // the uncalled part comes back as a payment
+    // Odd hundreds one by one in finish order: layers of 500, 700, 800, 1,000, 1,100.
+    {"2:200:AhKd 3:200:AsKc 6:100", "2:300 3:200 >2 3 LOSTHAND"}, {"2:200:AhKd 3:200:AsKc 4:200:AdKh 6:100", "2:300 3:200 4:200 >2 3 4 LOSTHAND"},
+    {"2:200:AhKd 3:200:AsKc 4:200:AdKh 6:200", "2:300 3:300 4:200 >2 3 4 LOSTHAND"}, {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100", "2:400 3:300 4:300 >2 3 4 LOSTHAND"},
+    {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100 7:100", "2:400 3:400 4:300 >2 3 4 LOSTHAND"},
+    {"1:400:AsKc 2:400:AhKd 3:200:QhQd 4:300", "1:200 2:300 3:800 >3 Queens LOSTHAND"},  // 1 and 2 tied behind: 2 first; a side layer is no won hand
+    {"2:900:AhKd 3:3000:AsKc 4:3000:Qh8d", "2:1,400 3:5,500 >2 3 LOSTHAND"},  // Layer1 2,700 split with its odd hundred
+    // The best hand staked least: each layer to the first place that can claim it; above the fourth, one.
+    {"2:500:AhAd 3:2000:KhKd 4:4000:QhQd 5:4000:ThTd", "2:2,000 3:4,500 4:4,000 >2 Aces Kings Queens Tens LOSTHAND"},
+    {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000:8h8d 7:6000:6h6d", "2:6,000 3:5,000 4:4,000 5:3,000 6:3,000 >2 Aces Kings Queens Tens Eights Sixes LOSTHAND"},
+    {"2:6000:AhAd 3:5000:KhKd 4:4000:QhQd 5:3000:ThTd 6:2000:8h8d 7:1000:6h6d", "2:21,000 >2 Aces Kings Queens Tens Eights Sixes LOSTHAND"},
+    {"2:1000:6h6d 3:6000:KhKd 4:5000:QhQd 5:4000:ThTd 6:3000:8h8d 7:2000:AhAd", "3:10,000 7:11,000 >7 Sixes Kings Queens Tens Eights Aces LOSTHAND"},
+    // Equal stakes add one level; a folded stake above all goes to whoever is in; the user folds.
+    {"1:2000:AhAd 2:2000:KhKd 3:2000:QhQd 4:1000:ThTd 5:3000", "1:10,000 >1 Aces Kings Queens Tens WONHAND"},
+    {"1:200 2:500:AhAd 3:3000:KhKd 4:3000:QhQd", "2:1,700 3:5,000 >2 Aces Kings Queens LOSTHAND"},
+    // A Layer5 nobody in the hand can claim leaves the table, and the closing check says so.
+    {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000", "2:5,000 3:4,000 4:3,000 5:2,000 >2 Aces Kings Queens Tens LOSTHAND | Table 1: Total Pot: 15000   Total Paid: 14000 | Table Total: 79000"},
+    {"2:100 3:200:AhKd", "3:300 >3 LOSTHAND"},  // all fold to the large blind, no card turned
+    {"1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", "1:3,300 3:8,000 >1 Aces Kings WONHAND"},
+};
+// clang-format on
+
 TEST(EndOfHand, BlindsByPlayersLeftAtEveryBoundary) {
-    // Per size, from the top: n above the first figure plays the second.
-    const std::pair<int16_t, const char*> tables[] = {
-        {8, "6:100 4:200 3:400 2:600 0:1000"},
-        {80, "60:100 50:200 40:400 30:600 20:800 10:1000 5:2000 3:4000 0:8000"},
-        {200, "160:100 120:200 80:400 60:600 50:800 40:1000 30:1500 20:2000 10:4000 5:7000 3:10000 0:15000"},
-        // clang-format off
-        {1000, "900:100 800:200 700:400 600:600 500:800 400:1000 300:1500 200:2000 100:4000 50:7000 30:10000 15:15000 7:20000 3:25000 0:35000"}};
-    // clang-format on
     test::ScriptedPlatform p;
     Game g(p);
     auto blindAt = [&g](int16_t size, int n) {
@@ -22,7 +44,7 @@ TEST(EndOfHand, BlindsByPlayersLeftAtEveryBoundary) {
         g.SetBlinds();
         return g.SmallBlind;
     };
-    for (auto [size, steps] : tables) {
+    for (auto [size, steps] : kBlinds) {
         EXPECT_EQ(blindAt(size, size), 100) << size;
         std::istringstream in(steps);
         int above = 0, previous = -1;
@@ -80,14 +102,12 @@ struct HandOver {
         s << "left " << g.PlayersLeft << " next " << g.NextFinishPlace << " user " << g.UserFinishPlace << " "
           << g.view.lblBlind.text;
         const View& v = g.view;
-        for (auto [on, what] : {std::pair(v.cmdDeal.visible, " deal"),
-                                {v.cmdStandings.visible, " standings"},
-                                {v.cmdFloor.visible, " floor"},
-                                {v.picTableMoney.visible, " winner"},
-                                {v.mnuSave.enabled && v.mnuSaveAs.enabled, " save"},
-                                {g.GameUnsaved, " unsaved"},
-                                {g.GameEnded, " ended"}})
+        // clang-format off
+        for (auto [on, what] : {std::pair(v.cmdDeal.visible, " deal"), {v.cmdStandings.visible, " standings"}, {v.cmdFloor.visible, " floor"},
+                                {v.picTableMoney.visible, " winner"}, {v.mnuSave.enabled && v.mnuSaveAs.enabled, " save"},
+                                {g.GameUnsaved, " unsaved"}, {g.GameEnded, " ended"}})
             if (on) s << what;
+        // clang-format on
         for (const auto& sound : p.sounds) s << " " << sound;
         for (int16_t place : p.gameOvers) s << " over " << place;
         s << " pauses " << p.pauses;
@@ -97,8 +117,7 @@ struct HandOver {
     Game g{p};
 };
 
-// Each case: the field (size, out before), those out at other tables now, blind, sound, Deal shown; each hand
-// (stake, user wins, opponent) and the game after it; the places of 1, 2, 8, 20, 41, 75, 140 and 200.
+// Field, out elsewhere now, blind, sound, Deal; each hand and the game after; the places of 1, 2, 8 ... 200.
 TEST(EndOfHand, PlacesBlindsAndTheEndOfTheGame) {
     std::vector<int> wide;  // out before in a field of 200, with places 58 to 200
     for (int i = 58; i <= 200; ++i)
@@ -178,8 +197,7 @@ TEST(EndOfHand, PotBreakdownLiveThenSnapshot) {
 // Paying the shown table: finish order, stake levels, layers, odd hundreds, marks, sound, pause, check.
 constexpr int32_t kStart = 10000;
 
-// Eight seats of 10,000 over a board of nothing; the seats named ("2:1000:AhAd", no cards when folded) put
-// their stake in. Tells "seat:paid" from the labels, ">" the arrowed seats, the sounds and the checks.
+// Seats "2:1000:AhAd" (no cards: folded) stake from 10,000 over no board; tells "seat:paid", ">" arrows.
 std::string Settle(const std::string& stakes, bool sound = true) {
     test::ScriptedPlatform p;
     Game g(p);
@@ -226,46 +244,7 @@ std::string Settle(const std::string& stakes, bool sound = true) {
 }
 
 TEST(SettlePots, Examples) {
-    const std::pair<const char*, const char*> rows[] = {
-        // A all in with 1,000 and best, B and C 5,000: Layer1 3,000 to A, Layer2 8,000 to B.
-        {"2:1000:AhAd 3:5000:KhKd 4:5000:QhQd", "2:3,000 3:8,000 >2 Aces Kings Queens LOSTHAND"},
-        // The uncalled part of B's bet comes back as a payment; C folded after 300.
-        {"2:1000:AhAd 3:5000:KhKd 4:300", "2:2,300 3:4,000 >2 Aces Kings LOSTHAND"},
-        // Odd hundreds one by one in finish order: layers of 500, 700, 800, 1,000, 1,100.
-        {"2:200:AhKd 3:200:AsKc 6:100", "2:300 3:200 >2 3 LOSTHAND"},
-        {"2:200:AhKd 3:200:AsKc 4:200:AdKh 6:100", "2:300 3:200 4:200 >2 3 4 LOSTHAND"},
-        {"2:200:AhKd 3:200:AsKc 4:200:AdKh 6:200", "2:300 3:300 4:200 >2 3 4 LOSTHAND"},
-        {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100", "2:400 3:300 4:300 >2 3 4 LOSTHAND"},
-        {"2:300:AhKd 3:300:AsKc 4:300:AdKh 6:100 7:100", "2:400 3:400 4:300 >2 3 4 LOSTHAND"},
-        // Seat 3 best, 1 and 2 tied behind: the swap puts 2 first. A side layer is no won hand.
-        {"1:400:AsKc 2:400:AhKd 3:200:QhQd 4:300", "1:200 2:300 3:800 >3 Queens LOSTHAND"},
-        // A tie with a smaller stake: Layer1 2,700 split with its odd hundred, Layer2 whole to seat 3.
-        {"2:900:AhKd 3:3000:AsKc 4:3000:Qh8d", "2:1,400 3:5,500 >2 3 LOSTHAND"},
-        // The best hand has the lowest stake: each layer falls to the first place that can claim it.
-        {"2:500:AhAd 3:2000:KhKd 4:4000:QhQd 5:4000:ThTd",
-         "2:2,000 3:4,500 4:4,000 >2 Aces Kings Queens Tens LOSTHAND"},
-        // Six stakes: chips above the fourth level are one layer, claimed by finish order.
-        {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000:8h8d 7:6000:6h6d",
-         "2:6,000 3:5,000 4:4,000 5:3,000 6:3,000 >2 Aces Kings Queens Tens Eights Sixes LOSTHAND"},
-        {"2:6000:AhAd 3:5000:KhKd 4:4000:QhQd 5:3000:ThTd 6:2000:8h8d 7:1000:6h6d",
-         "2:21,000 >2 Aces Kings Queens Tens Eights Sixes LOSTHAND"},
-        {"2:1000:6h6d 3:6000:KhKd 4:5000:QhQd 5:4000:ThTd 6:3000:8h8d 7:2000:AhAd",
-         "3:10,000 7:11,000 >7 Sixes Kings Queens Tens Eights Aces LOSTHAND"},
-        // Equal stakes add one level; a folded stake above them all goes to whoever is in.
-        {"1:2000:AhAd 2:2000:KhKd 3:2000:QhQd 4:1000:ThTd 5:3000",
-         "1:10,000 >1 Aces Kings Queens Tens WONHAND"},
-        // The user folds and a side layer is all that is left to decide.
-        {"1:200 2:500:AhAd 3:3000:KhKd 4:3000:QhQd", "2:1,700 3:5,000 >2 Aces Kings Queens LOSTHAND"},
-        // A Layer5 nobody in the hand can claim leaves the table, and the closing check says so.
-        {"2:1000:AhAd 3:2000:KhKd 4:3000:QhQd 5:4000:ThTd 6:5000",
-         "2:5,000 3:4,000 4:3,000 5:2,000 >2 Aces Kings Queens Tens LOSTHAND | Table 1: Total Pot: 15000   "
-         "Total Paid: 14000 | "
-         "Table Total: 79000"},
-        // All fold to the large blind: its 200 and the small blind's 100, no card turned.
-        {"2:100 3:200:AhKd", "3:300 >3 LOSTHAND"},
-        {"1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", "1:3,300 3:8,000 >1 Aces Kings WONHAND"},
-    };
-    for (auto [stakes, outcome] : rows) EXPECT_EQ(Settle(stakes), outcome) << stakes;
+    for (auto [stakes, outcome] : kSettles) EXPECT_EQ(Settle(stakes), outcome) << stakes;
     EXPECT_EQ(Settle("1:1000:AhAd 3:5000:KhKd 4:5000:Qh8d 6:300", false), "1:3,300 3:8,000 >1 Aces Kings");
 }
 

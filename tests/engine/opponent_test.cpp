@@ -6,73 +6,26 @@ namespace {
 
 using test::ScriptedPlatform;
 
-// Hole-card classes; RateHand by the class before the flop, after it by the code and the hole cards.
-TEST(Opponent, HoleCardClassesAndRateHand) {
-    ScriptedPlatform p;
-    Game g(p);
-    const std::pair<const char*, int> classes[] = {
-        {"AhAs", 1}, {"9d9c", 1}, {"TdTc", 1}, {"8h8s", 2}, {"2h2c", 2}, {"JsQs", 3}, {"AcKc", 3},
-        {"KhJd", 4}, {"Ah4s", 5}, {"Ah4h", 5}, {"4sAh", 6}, {"4hAh", 5}, {"TdAs", 6}, {"AsTd", 5},
-        {"TdJd", 5}, {"Ts9s", 7}, {"7s2s", 7}, {"Ts9d", 8}, {"Ah2s", 5}, {"2s2d", 2}};
-    for (int k = 0; k < 20; k += 8) {  // eight seats a call, in the hand or not
-        for (int s = 1; s <= kSeats; ++s) test::SetHole(g, s, classes[(k + s - 1) % 20].first);
-        g.SeatInHand[3] = true;
-        g.ClassifyHoleCards();
-        for (int s = 1; s <= kSeats; ++s)
-            EXPECT_EQ(g.StartingHandClass[s], classes[(k + s - 1) % 20].second)
-                << classes[(k + s - 1) % 20].first;
-    }
-    g.CardsKnown = 2, g.SeatHandCode[3] = 1;  // the made hand plays no part before the flop
-    const int before[9][2] = {{10, 0}, {90, 25}, {75, 20}, {65, 10}, {55, 5},
-                              {50, 5}, {40, 5},  {30, 0},  {10, 0}};
-    for (int cls = 1; cls <= 8; ++cls) {
-        g.StartingHandClass[3] = static_cast<int16_t>(cls);
-        g.RateHand(3);
-        EXPECT_EQ(g.CallChance * 1000 + g.RaiseChance, before[cls][0] * 1000 + before[cls][1]) << cls;
-    }
-    const std::tuple<int, const char*, int, int> rows[] = {
-        {1, "2s3d", 100, 75},  {27, "2s3d", 100, 75}, {28, "2s3d", 95, 60},  {31, "2s3d", 95, 60},
-        {32, "2s3d", 90, 50},  {36, "2s3d", 90, 50},  {37, "2s3d", 80, 40},  {37, "AsKs", 80, 40},
-        {38, "2s3d", 75, 35},  {41, "2s3d", 75, 35},  {42, "2s3d", 70, 30},  {47, "2s3d", 70, 30},
-        {48, "AhAs", 90, 40},  {48, "Ah9s", 80, 30},  {48, "Kh9s", 60, 15},  {52, "6hTs", 80, 30},
-        {52, "ThTs", 90, 40},  {53, "9h9s", 85, 35},  {55, "7d2s", 70, 25},  {55, "8d2s", 50, 10},
-        {56, "6d2s", 65, 25},  {60, "2d2s", 80, 30},  {60, "3d4s", 50, 10},  {61, "AhKs", 80, 30},
-        {61, "Kh9s", 65, 25},  {61, "Qh9s", 50, 10},  {138, "3h3s", 80, 30}, {139, "AhAs", 95, 45},
-        {139, "Ah2s", 85, 30}, {139, "Kh2s", 50, 10}, {140, "Kh2s", 80, 30}, {140, "KhKs", 95, 45},
-        {141, "Qh2s", 85, 30}, {143, "ThTs", 90, 40}, {143, "9h9s", 50, 10}, {144, "2h9s", 70, 20},
-        {146, "AhKs", 40, 10}, {146, "7h2s", 70, 20}, {147, "6h6d", 70, 30}, {151, "2hAd", 60, 20},
-        {151, "3hAd", 40, 10}, {152, "2s3d", 70, 20}, {153, "2s3d", 65, 15}, {154, "2s3d", 50, 10},
-        {162, "2s3d", 50, 10}, {163, "2s3d", 10, 0},  {199, "AsAd", 10, 0},  {200, "2s3d", 10, 0},
-    };
-    g.CardsKnown = 6;
-    auto rate = [&g](int code, const std::string& hole) {
-        test::SetHole(g, 3, hole);
-        g.SeatHandCode[3] = static_cast<int16_t>(code);
-        g.RateHand(3);
-        return std::to_string(g.CallChance) + "/" + std::to_string(g.RaiseChance);
-    };
-    for (auto [code, hole, call, raise] : rows)
-        EXPECT_EQ(rate(code, hole), std::to_string(call) + "/" + std::to_string(raise))
-            << code << " " << hole;
-    // Each two-pair code: a hole card of either rank gives h 1, both give 2, neither 0.
-    const char* faces = "23456789TJQKA";
-    int code = 61;
-    for (int high = 12; high >= 1; --high)
-        for (int low = high - 1; low >= 0; --low, ++code) {
-            char other = faces[low == 0 ? high - 1 : low - 1];
-            if (other == faces[low]) other = faces[high + 1 > 12 ? 0 : high + 1];
-            std::string h(1, faces[high]), l(1, faces[low]), o(1, other);
-            SCOPED_TRACE(code);
-            EXPECT_EQ(rate(code, l + "h" + o + "d"), "65/25");
-            EXPECT_EQ(rate(code, h + "h" + o + "d"), "65/25");
-            EXPECT_EQ(rate(code, o + "h" + o + "d"), "50/10");
-            EXPECT_EQ(rate(code, h + "s" + l + "c"), "80/30");
-        }
-}
-
+// clang-format off
+const std::pair<const char*, int> kClasses[] = {  // hole cards, class
+    {"AhAs", 1}, {"9d9c", 1}, {"TdTc", 1}, {"8h8s", 2}, {"2h2c", 2}, {"JsQs", 3}, {"AcKc", 3}, {"KhJd", 4},
+    {"Ah4s", 5}, {"Ah4h", 5}, {"4sAh", 6}, {"4hAh", 5}, {"TdAs", 6}, {"AsTd", 5}, {"TdJd", 5}, {"Ts9s", 7},
+    {"7s2s", 7}, {"Ts9d", 8}, {"Ah2s", 5}, {"2s2d", 2}};
+const int kBefore[9][2] = {{10, 0}, {90, 25}, {75, 20}, {65, 10}, {55, 5}, {50, 5}, {40, 5}, {30, 0}, {10, 0}};  // by class: call, raise
+const std::tuple<int, const char*, int, int> kAfter[] = {  // code, hole cards, call, raise
+    {1, "2s3d", 100, 75}, {27, "2s3d", 100, 75}, {28, "2s3d", 95, 60}, {31, "2s3d", 95, 60}, {32, "2s3d", 90, 50},
+    {36, "2s3d", 90, 50}, {37, "2s3d", 80, 40}, {37, "AsKs", 80, 40}, {38, "2s3d", 75, 35}, {41, "2s3d", 75, 35},
+    {42, "2s3d", 70, 30}, {47, "2s3d", 70, 30}, {48, "AhAs", 90, 40}, {48, "Ah9s", 80, 30}, {48, "Kh9s", 60, 15},
+    {52, "6hTs", 80, 30}, {52, "ThTs", 90, 40}, {53, "9h9s", 85, 35}, {55, "7d2s", 70, 25}, {55, "8d2s", 50, 10},
+    {56, "6d2s", 65, 25}, {60, "2d2s", 80, 30}, {60, "3d4s", 50, 10}, {61, "AhKs", 80, 30}, {61, "Kh9s", 65, 25},
+    {61, "Qh9s", 50, 10}, {138, "3h3s", 80, 30}, {139, "AhAs", 95, 45}, {139, "Ah2s", 85, 30}, {139, "Kh2s", 50, 10},
+    {140, "Kh2s", 80, 30}, {140, "KhKs", 95, 45}, {141, "Qh2s", 85, 30}, {143, "ThTs", 90, 40},
+    {143, "9h9s", 50, 10}, {144, "2h9s", 70, 20}, {146, "AhKs", 40, 10}, {146, "7h2s", 70, 20},
+    {147, "6h6d", 70, 30}, {151, "2hAd", 60, 20}, {151, "3hAd", 40, 10}, {152, "2s3d", 70, 20},
+    {153, "2s3d", 65, 15}, {154, "2s3d", 50, 10}, {162, "2s3d", 50, 10}, {163, "2s3d", 10, 0}, {199, "AsAd", 10, 0},
+    {200, "2s3d", 10, 0}};
 // Seat 5 moves, seat 3 holds any high bet. Draws are the percentages 100 * r; x draws Round(9r + 1) before
 // the flop, Round(19r + 1) after it, chosen so that a scale one off, a floor or the other rounding tells.
-// clang-format off
 struct Move { int street; bool background; int16_t call, raise; int32_t bank, stake, high; bool raised; std::vector<float> draws;
               const char* words; int32_t stakeAfter, highAfter; int highIndexAfter; bool raisedAfter, inHandAfter; };
 
@@ -133,6 +86,50 @@ const Move kMoves[] = {
     {2, true, 80, 40, 10000, 0, 1000, true, {0, 0, 0.158f}, "", 2800, 2800, 5, true, true},
 };
 // clang-format on
+
+// Hole-card classes; RateHand by the class before the flop, after it by the code and the hole cards.
+TEST(Opponent, HoleCardClassesAndRateHand) {
+    ScriptedPlatform p;
+    Game g(p);
+    for (int k = 0; k < 20; k += 8) {  // eight seats a call, in the hand or not
+        for (int s = 1; s <= kSeats; ++s) test::SetHole(g, s, kClasses[(k + s - 1) % 20].first);
+        g.SeatInHand[3] = true;
+        g.ClassifyHoleCards();
+        for (int s = 1; s <= kSeats; ++s)
+            EXPECT_EQ(g.StartingHandClass[s], kClasses[(k + s - 1) % 20].second)
+                << kClasses[(k + s - 1) % 20].first;
+    }
+    g.CardsKnown = 2, g.SeatHandCode[3] = 1;  // the made hand plays no part before the flop
+    for (int cls = 1; cls <= 8; ++cls) {
+        g.StartingHandClass[3] = static_cast<int16_t>(cls);
+        g.RateHand(3);
+        EXPECT_EQ(g.CallChance * 1000 + g.RaiseChance, kBefore[cls][0] * 1000 + kBefore[cls][1]) << cls;
+    }
+    g.CardsKnown = 6;
+    auto rate = [&g](int code, const std::string& hole) {
+        test::SetHole(g, 3, hole);
+        g.SeatHandCode[3] = static_cast<int16_t>(code);
+        g.RateHand(3);
+        return std::to_string(g.CallChance) + "/" + std::to_string(g.RaiseChance);
+    };
+    for (auto [code, hole, call, raise] : kAfter)
+        EXPECT_EQ(rate(code, hole), std::to_string(call) + "/" + std::to_string(raise))
+            << code << " " << hole;
+    // Each two-pair code: a hole card of either rank gives h 1, both give 2, neither 0.
+    const char* faces = "23456789TJQKA";
+    int code = 61;
+    for (int high = 12; high >= 1; --high)
+        for (int low = high - 1; low >= 0; --low, ++code) {
+            char other = faces[low == 0 ? high - 1 : low - 1];
+            if (other == faces[low]) other = faces[high + 1 > 12 ? 0 : high + 1];
+            std::string h(1, faces[high]), l(1, faces[low]), o(1, other);
+            SCOPED_TRACE(code);
+            EXPECT_EQ(rate(code, l + "h" + o + "d"), "65/25");
+            EXPECT_EQ(rate(code, h + "h" + o + "d"), "65/25");
+            EXPECT_EQ(rate(code, o + "h" + o + "d"), "50/10");
+            EXPECT_EQ(rate(code, h + "s" + l + "c"), "80/30");
+        }
+}
 
 TEST(Opponent, Moves) {
     for (const Move& c : kMoves) {

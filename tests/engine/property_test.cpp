@@ -1,6 +1,5 @@
-// Money and rounding, the random source, and seeded games through the real timer chain, checked after every
-// step and hand: chips conserved, one timer at a time, the roster a permutation, places once within 1..N,
-// the tables balanced, no closing check; a field the user left plays out to its winner.
+// Money, rounding, the random source; seeded games checked after every step and hand (chips, one timer, the
+// roster, places 1..N, balanced tables, no closing check); a field the user left plays out to its winner.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -91,8 +90,7 @@ bool CheckPlayOut(Game& g, int players) {
     return stopped;
 }
 
-// Every policy and field size, with the log and without. The signatures of stacks and players left after
-// every hand and of the printed log move with any change of a draw, a move, a payment or a place.
+// Every policy and size, with the log and without; signatures of every hand and of the log pin the play.
 TEST(Property, SeededGamesPlayCleanAndRepeatExactly) {
     const std::tuple<int, Policy, uint64_t, uint64_t> runs[] = {
         {8, Policy::Rule, 1, 200},     {8, Policy::Caller, 201, 240}, {8, Policy::Folder, 241, 280},

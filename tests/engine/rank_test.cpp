@@ -1,5 +1,4 @@
-// RankHands (from tables) against the step-by-step reference on every hand; a census of every five-card
-// hand, seven-card showdowns against a short reference of the ordinary ranking in the test, named cases.
+// RankHands against the step-by-step reference, a five-card census, seven-card showdowns, named cases.
 #include <cstring>
 #include <numeric>
 #include <random>
@@ -11,6 +10,38 @@ namespace holdem {
 namespace {
 
 using namespace test;
+
+// clang-format off
+const std::array<int64_t, 3> kRuns[] = {  // five-card hands: codes first..last, each this often
+    {1, 10, 4}, {11, 23, 48}, {24, 36, 288}, {37, 37, 5108}, {38, 47, 1020}, {48, 60, 4224}, {61, 138, 1584},
+    {139, 151, 84480}, {152, 152, 76620}, {153, 153, 1188480}, {154, 154, 2880}, {155, 155, 1920}, {156, 156, 0},
+    {157, 157, 2880}, {158, 158, 1920}, {159, 159, 2880}, {160, 161, 0}, {162, 162, 1920}, {163, 198, 0},
+    {199, 199, 23040}, {0, 0, 0}, {200, 200, 0}};
+const std::array<int, 4> kDecks[] = {{1, 4, 8, 3000}, {8, 4, 5, 3000}, {1, 2, 8, 3000}};  // low rank, suits, seats, deals
+const struct NamedRow { const char* cards; int code; const char* name; const char* best; /* elements 1..7 on the river */ } kNamed[] = {
+    {"AhKh QhJhTh 2c3d", 1, "Royal Flush", "13 12 11 10 9 1 2"}, {"2h3h 4h5h6h 9hKh", 9, "Straight Flush", "12 8 5 4 3 2 1"},  // the 6-high
+    {"AhKh 5h4h3h 2h9c", 10, "Straight Flush", "13 12 4 3 2 1 8"}, {"Ah6h 5h4h3h 2h9c", 9, "Straight Flush", "13 5 4 3 2 1 8"},
+    {"Ad9d 8d7d6d 5dKc", 6, "Straight Flush", "13 8 7 6 5 4 12"}, {"2h7h 9hJhKh TcQd", 37, "Flush", "12 10 8 6 1 9 11"},
+    {"AhAs Jh8h5h 3h2h", 37, "Flush", "13 10 7 4 2 1 13"}, {"AhAs AdAc 2h3c7d", 11, "Four of a Kind", "13 13 13 13 6 2 1"},
+    {"2h2s 2d2c Ah3c7d", 23, "Four of a Kind", "1 1 1 1 13 6 2"}, {"7h7s 7d7c KhKsKd", 18, "Four of a Kind", "6 6 6 6 12 12 12"},
+    {"AhAs AdKcKh 3c7d", 24, "Full House", "13 13 13 12 12 6 2"}, {"2h2s 2dAcAh 3c7d", 36, "Full House", "1 1 1 13 13 6 2"},
+    {"9h9s 9dKcKh Ks2d", 25, "Full House", "12 12 12 8 8 8 1"}, {"4h4s 4d9c9h JsJd", 34, "Full House", "3 3 3 10 10 8 8"},
+    {"AhKd QsJcTh 3c7d", 38, "Straight", "13 12 11 10 9 6 2"}, {"Ah2d 3s4c5h Kc9d", 47, "Straight", "13 12 8 4 3 2 1"},
+    {"2h3d 4s5c6h Ac9d", 46, "Straight", "13 8 5 4 3 2 1"}, {"AhAs AdKc2h 3c7d", 48, "Three of a Kind", "13 13 13 12 6 2 1"},
+    {"8h8s 8dAc2h Js4d", 54, "Three of a Kind", "7 7 7 13 10 3 1"}, {"2h2s 2dKc5h 9c7d", 60, "Three of a Kind", "1 1 1 12 8 6 4"},
+    {"AhAs KdKc2h 7c9d", 61, "Two Pair", "13 13 12 12 8 6 1"}, {"AhAs 2d2c5h 7c9d", 72, "Two Pair", "13 13 1 1 8 6 4"},
+    {"KhKs QdQc2h 7c9d", 73, "Two Pair", "12 12 11 11 8 6 1"}, {"KhKs 9d9c5h 5c8d", 76, "Two Pair", "12 12 8 8 7 4 4"},  // kicker over third pair
+    {"KhKs 9d9c5h 5c2d", 76, "Two Pair", "12 12 8 8 4 4 1"}, {"3h3s 2d2c5h 7c9d", 138, "Two Pair", "2 2 1 1 8 6 4"},
+    {"8h8s 2dAc3h Js5d", 145, "Eights", "7 7 13 10 4 2 1"}, {"Ah Js 8d5c2h 3cTd", 199, "", "13 10 9 7 4 2 1"},
+    {"2h7h KhJh4s 9c3d", 199, "", "12 10 8 6 3 2 1"},
+};
+const char* const kPairWords[] = {"Dueces", "Threes", "Fours", "Fives", "Sixes", "Sevens", "Eights", "Nines", "Tens", "Jacks", "Queens", "Kings", "Aces"};
+const std::pair<const char*, int> kBeforeTheRiver[] = {  // cards on the flop or the turn, code
+    {"9h8s 6d5c4h", 199}, {"KhQs JdTc4h", 153}, {"AhJs 8d5c2h", 153}, {"AhKs QdJc9h", 154}, {"AhQs JdTc9h", 155},
+    {"AhJs Td9c8h", 153}, {"KhQs Td9c8h", 157}, {"KhJs Td9c8h", 158}, {"QhJs 9d8c7h", 159}, {"AhTs 9d8c7h", 153},
+    {"KhTs 9d8c6h", 153}, {"QhTs 9d8c6h", 162}, {"KhTs 9d8c7h", 153}, {"2h7h KhJh4s", 152}, {"2s7h KhJh4s9h", 152},
+    {"AhKs 2dQcJh9s", 154}, {"AhKs 2dQcJh4s", 153}, {"AhKh 5h5c2h", 148}, {"KhKs Kd5c5h", 25}, {"KhKs Kd5c5h2c", 25}};
+// clang-format on
 
 // The same cards before the tables (g[0]) and the reference (g[1]); marks show a path that writes too much.
 struct Twin {
@@ -51,17 +82,14 @@ protected:
     Rank() { g.rnd.Script({}); }
     ~Rank() override { EXPECT_EQ(g.rnd.Overdrawn(), 0); }
     // Hole cards, then the board as far as it is out (5, 6 or 7 cards).
-    int Code(const std::string& names, int seat = 1) {
+    int Code(const std::string& names) {
         std::vector<int16_t> cards = CardsOf(names);
-        g.SeatInHand[seat] = true;
-        for (std::size_t k = 0; k < cards.size(); ++k) {
-            if (k >= 2) g.Deck[kBoardFirst + k - 2] = cards[k];
-            for (int s = 1; s <= kSeats; ++s)
-                if (k >= 2 || s == seat) g.SeatCards[s][k + 1] = cards[k];
-        }
+        g.SeatInHand[1] = true;
+        for (std::size_t k = 0; k < cards.size(); ++k)
+            g.SeatCards[1][k + 1] = k < 2 ? cards[k] : (g.Deck[kBoardFirst + k - 2] = cards[k]);
         g.CardsKnown = static_cast<int16_t>(cards.size());
         g.RankHands();
-        return g.SeatHandCode[seat];
+        return g.SeatHandCode[1];
     }
     std::string Best() const {
         std::string s = std::to_string(g.SeatBestRanks[1][1]);
@@ -72,8 +100,7 @@ protected:
     Game g{p};
 };
 
-// Every five-card hand as the reference: the nine classes in their known numbers, every straight (flush)
-// height, group rank and two pair equally often; on the flop the high cards split by the draw rules.
+// Every five-card hand as the reference, by class and by code; high cards split by the draw rules.
 TEST(RankFast, EveryFiveCardHandAsTheReferenceByCode) {
     Twin t;
     std::array<int64_t, 201> byCode{};
@@ -98,13 +125,7 @@ TEST(RankFast, EveryFiveCardHandAsTheReferenceByCode) {
     for (int code = 0; code <= 200; ++code) byCategory[CategoryOfCode(code)] += byCode[code];
     EXPECT_EQ(byCategory, (std::array<int64_t, kCategories>{1302540, 1098240, 123552, 54912, 10200, 5108,
                                                             3744, 624, 40}));
-    const std::array<int64_t, 3> runs[] = {
-        {1, 10, 4},       {11, 23, 48},     {24, 36, 288},     {37, 37, 5108},    {38, 47, 1020},
-        {48, 60, 4224},   {61, 138, 1584},  {139, 151, 84480}, {152, 152, 76620}, {153, 153, 1188480},
-        {154, 154, 2880}, {155, 155, 1920}, {156, 156, 0},     {157, 157, 2880},  {158, 158, 1920},
-        {159, 159, 2880}, {160, 161, 0},    {162, 162, 1920},  {163, 198, 0},     {199, 199, 23040},
-        {0, 0, 0},        {200, 200, 0}};
-    for (auto [first, last, each] : runs)
+    for (auto [first, last, each] : kRuns)
         for (int code = static_cast<int>(first); code <= last; ++code) EXPECT_EQ(byCode[code], each) << code;
 }
 
@@ -149,14 +170,11 @@ uint32_t BestOfSeven(const int* seven) {
     return best;
 }
 
-// Seeded showdowns of a full deck, of the high cards alone and of two suits: the code's class and every
-// comparison as the reference says, except that four Aces tie.
+// Seeded showdowns (full deck, high cards, two suits): class and comparisons as the reference, four Aces tie.
 TEST_F(Rank, SevenCardShowdownsAgreeWithTheReference) {
-    const std::array<int, 4> decks[] = {
-        {1, 4, 8, 3000}, {8, 4, 5, 3000}, {1, 2, 8, 3000}};  // low rank, suits, seats, deals
     std::mt19937 rng(20240601u);
     std::array<int, kCategories> seen{};
-    for (auto [low, suits, seats, deals] : decks) {
+    for (auto [low, suits, seats, deals] : kDecks) {
         std::vector<int> deck;
         for (int suit = 0; suit < suits; ++suit)
             for (int rank = low; rank <= 13; ++rank) deck.push_back(suit * 13 + rank);
@@ -196,41 +214,18 @@ TEST_F(Rank, SevenCardShowdownsAgreeWithTheReference) {
 }
 
 TEST_F(Rank, NamedHandsCodesAndArrangedRanks) {
-    // clang-format off
-    struct Row { const char* cards; int code; const char* name; const char* best; /* elements 1..7 on the river */ } rows[] = {
-        {"AhKh QhJhTh 2c3d", 1, "Royal Flush", "13 12 11 10 9 1 2"},
-        {"2h3h 4h5h6h 9hKh", 9, "Straight Flush", "12 8 5 4 3 2 1"},  // the 6-high, not the flush
-        {"AhKh 5h4h3h 2h9c", 10, "Straight Flush", "13 12 4 3 2 1 8"}, {"Ah6h 5h4h3h 2h9c", 9, "Straight Flush", "13 5 4 3 2 1 8"},
-        {"Ad9d 8d7d6d 5dKc", 6, "Straight Flush", "13 8 7 6 5 4 12"}, {"2h7h 9hJhKh TcQd", 37, "Flush", "12 10 8 6 1 9 11"},
-        {"AhAs Jh8h5h 3h2h", 37, "Flush", "13 10 7 4 2 1 13"}, {"AhAs AdAc 2h3c7d", 11, "Four of a Kind", "13 13 13 13 6 2 1"},
-        {"2h2s 2d2c Ah3c7d", 23, "Four of a Kind", "1 1 1 1 13 6 2"}, {"7h7s 7d7c KhKsKd", 18, "Four of a Kind", "6 6 6 6 12 12 12"},
-        {"AhAs AdKcKh 3c7d", 24, "Full House", "13 13 13 12 12 6 2"}, {"2h2s 2dAcAh 3c7d", 36, "Full House", "1 1 1 13 13 6 2"},
-        {"9h9s 9dKcKh Ks2d", 25, "Full House", "12 12 12 8 8 8 1"}, {"4h4s 4d9c9h JsJd", 34, "Full House", "3 3 3 10 10 8 8"},
-        {"AhKd QsJcTh 3c7d", 38, "Straight", "13 12 11 10 9 6 2"}, {"Ah2d 3s4c5h Kc9d", 47, "Straight", "13 12 8 4 3 2 1"},
-        {"2h3d 4s5c6h Ac9d", 46, "Straight", "13 8 5 4 3 2 1"}, {"AhAs AdKc2h 3c7d", 48, "Three of a Kind", "13 13 13 12 6 2 1"},
-        {"8h8s 8dAc2h Js4d", 54, "Three of a Kind", "7 7 7 13 10 3 1"}, {"2h2s 2dKc5h 9c7d", 60, "Three of a Kind", "1 1 1 12 8 6 4"},
-        {"AhAs KdKc2h 7c9d", 61, "Two Pair", "13 13 12 12 8 6 1"}, {"AhAs 2d2c5h 7c9d", 72, "Two Pair", "13 13 1 1 8 6 4"},
-        {"KhKs QdQc2h 7c9d", 73, "Two Pair", "12 12 11 11 8 6 1"},
-        {"KhKs 9d9c5h 5c8d", 76, "Two Pair", "12 12 8 8 7 4 4"},  // the kicker beats the third pair
-        {"KhKs 9d9c5h 5c2d", 76, "Two Pair", "12 12 8 8 4 4 1"}, {"3h3s 2d2c5h 7c9d", 138, "Two Pair", "2 2 1 1 8 6 4"},
-        {"8h8s 2dAc3h Js5d", 145, "Eights", "7 7 13 10 4 2 1"}, {"Ah Js 8d5c2h 3cTd", 199, "", "13 10 9 7 4 2 1"},
-        {"2h7h KhJh4s 9c3d", 199, "", "12 10 8 6 3 2 1"},
-    };
-    // clang-format on
-    for (const Row& r : rows) {
+    for (const NamedRow& r : kNamed) {
         SCOPED_TRACE(r.cards);
         g.SeatHandName[1] = "";
         EXPECT_EQ(Code(r.cards), r.code);
         EXPECT_EQ(g.SeatHandName[1], r.name);
         EXPECT_EQ(Best(), r.best);
     }
-    const char* words[] = {"Dueces", "Threes", "Fours", "Fives",  "Sixes", "Sevens", "Eights",
-                           "Nines",  "Tens",   "Jacks", "Queens", "Kings", "Aces"};
     for (int r = 1; r <= 13; ++r) {  // a pocket pair over a board that pairs nothing
         std::string pair = std::string(1, "23456789TJQKA"[r - 1]);
         bool high = r == 3 || r == 6 || r == 8 || r == 11 || r == 12;
         EXPECT_EQ(Code(pair + "h" + pair + "s" + (high ? "2d5c6d8cTd" : "KdQc9d7c4d")), 152 - r) << r;
-        EXPECT_EQ(g.SeatHandName[1], words[r - 1]);
+        EXPECT_EQ(g.SeatHandName[1], kPairWords[r - 1]);
     }
     const std::vector<int16_t> flush = CardsOf("KhQh JhTh2h 3c4d");
     int16_t cards[kHandCardsMax + 1] = {0,        flush[0], flush[1], flush[2],
@@ -243,30 +238,15 @@ TEST_F(Rank, NamedHandsCodesAndArrangedRanks) {
 
 // Before the river no pair keeps its name, the codes tell the draws apart and BestRanks waits.
 TEST_F(Rank, HighCardsOnTheFlopAndTheTurn) {
-    const std::pair<const char*, int> rows[] = {
-        {"9h8s 6d5c4h", 199},   {"KhQs JdTc4h", 153}, {"AhJs 8d5c2h", 153},   {"AhKs QdJc9h", 154},
-        {"AhQs JdTc9h", 155},   {"AhJs Td9c8h", 153}, {"KhQs Td9c8h", 157},   {"KhJs Td9c8h", 158},
-        {"QhJs 9d8c7h", 159},   {"AhTs 9d8c7h", 153}, {"KhTs 9d8c6h", 153},   {"QhTs 9d8c6h", 162},
-        {"KhTs 9d8c7h", 153},   {"2h7h KhJh4s", 152}, {"2s7h KhJh4s9h", 152}, {"AhKs 2dQcJh9s", 154},
-        {"AhKs 2dQcJh4s", 153}, {"AhKh 5h5c2h", 148}, {"KhKs Kd5c5h", 25},    {"KhKs Kd5c5h2c", 25},
-    };
-    for (auto [cards, code] : rows) {
+    for (auto [cards, code] : kBeforeTheRiver) {
         g.SeatHandName[1] = "kept";
         EXPECT_EQ(Code(cards), code) << cards;
         EXPECT_EQ(g.SeatHandName[1], code >= 152 ? "kept" : code == 148 ? "Fives" : "Full House") << cards;
         EXPECT_EQ(Best(), "0 0 0 0 0 0 0") << cards;
     }
-    // Only seats in the hand are ranked: the others get 200 and keep their names.
-    g.SeatHandName[5] = "Two Pair";
-    g.SeatInHand = {};
-    Code("AhAs KdKc2h7c9d", 2);
-    for (int s = 1; s <= kSeats; ++s) EXPECT_EQ(g.SeatHandCode[s], s == 2 ? 61 : kNoHand) << s;
-    EXPECT_EQ(g.SeatHandName[5], "Two Pair");
 }
 
-// Seeded random deals, eight seats each, on the flop, turn and river; odd input too.
-// Every six-card rank pattern, each in four suitings (flushes where they can be), then a million seeded
-// seats on the flop, turn and river, and odd input.
+// Every six-card rank pattern in four suitings, a million seeded seats on flop, turn and river, odd input.
 TEST(RankFast, EverySixCardPatternAndAMillionHandsAsTheReference) {
     // Were a table incomplete, the reference would stand in and prove nothing.
     for (int n : {5, 6, 7}) EXPECT_TRUE(RankPatterns(n).complete && FlushCodes().complete);

@@ -67,12 +67,7 @@ TEST_F(SafetyTest, RefusedOpenOrNewGameLeavesTheGameInPlayAsItWas) {
             const std::string before = StateText(g);
             std::filesystem::remove(path);
             text == "-" ? (p.openPaths.push_back(path), g.rnd.Script({}), g.mnuOpen_Click()) : Open(text, {});
-            ASSERT_EQ(p.messages.size(), 1u);
-            const MessageCall& m = p.messages[0];
-            EXPECT_EQ(std::tie(m.text, m.title, m.icon, m.buttons),
-                      std::make_tuple("Saved game not opened.\n" + reason, "Game Not Saved",
-                                      MsgIcon::Exclamation, MsgButtons::OK));
-            p.messages.clear();
+            ExpectMessage("Saved game not opened.\n" + reason, "Game Not Saved");
             EXPECT_EQ(g.rnd.Overdrawn(), 0);
             EXPECT_EQ(StateText(g), before);
         }
@@ -91,13 +86,11 @@ TEST_F(SafetyTest, RefusedOpenOrNewGameLeavesTheGameInPlayAsItWas) {
         const std::string before = StateText(g);
         g.mnuNew_Click();
         ASSERT_EQ(p.messages.size(), 3u);
-        const MessageCall& m = p.messages[2];
-        EXPECT_EQ(std::tie(m.text, m.title, m.icon),
-                  std::make_tuple("The players of a new game could not be read from gamedata.dat in\n" +
-                                      dir.Folder() + reason + "\n\nReinstalling the game restores the file.",
-                                  "Game Not Started", MsgIcon::Exclamation));
+        p.messages.erase(p.messages.begin(), p.messages.begin() + 2);  // the two questions
+        ExpectMessage("The players of a new game could not be read from gamedata.dat in\n" + dir.Folder() +
+                          reason + "\n\nReinstalling the game restores the file.",
+                      "Game Not Started");
         EXPECT_TRUE(StateText(g) == before && p.playerNameCalls == 0);
-        p.messages.clear();
     }
     // The hand goes on, and Save writes to the game's own file without asking.
     FinishHand(g);
@@ -130,8 +123,7 @@ const SaveCalls kInjecting{
     [](const char* a, const char* b) { return Injected("rename") ? -1 : gReal.rename(a, b); },
 };
 
-// A cancelled dialog or a failed save keeps the path, flag, hand and old file, and leaves no temporary file.
-// Each case: the action, the path before ("" none), the call that fails, its turn and error, the message.
+// A cancelled dialog or a failed save (which call, its turn and error) keeps path, flag, hand and old file.
 TEST_F(SafetyTest, CancelsAndFailedSavesKeepThePathTheFlagAndTheOldFile) {
     Open(RosterText(8, 5, 2, 100, FieldLines(8)), LoadDraws());
     g.StopHandTimers();
@@ -164,11 +156,7 @@ TEST_F(SafetyTest, CancelsAndFailedSavesKeepThePathTheFlagAndTheOldFile) {
         SystemSaveCalls() = kInjecting;
         (g.*action)();
         SystemSaveCalls() = gReal;
-        ASSERT_EQ(p.messages.size(), 1u);
-        const MessageCall& m = p.messages[0];
-        EXPECT_EQ(std::tie(m.text, m.title, m.icon, m.buttons),
-                  std::make_tuple(message, "Game Not Saved", MsgIcon::Exclamation, MsgButtons::OK));
-        p.messages.clear();
+        ExpectMessage(message, "Game Not Saved");
         EXPECT_EQ(std::make_tuple(g.SavedGamePath, g.GameUnsaved, int{g.HandsPlayed}, g.RosterName[2],
                                   g.RunningTimer(), ReadAll(dir.File("kept.sgf")).substr(0, 4)),
                   std::make_tuple(*path ? dir.File(path) : "", true, 6, "Player No. 2", TimerBetFlop,
@@ -187,8 +175,7 @@ TEST_F(SafetyTest, CancelsAndFailedSavesKeepThePathTheFlagAndTheOldFile) {
     EXPECT_TRUE(p.messages.empty() && !g.GameUnsaved && !std::filesystem::exists(leftover));
     const std::string saved = ReadAll(g.SavedGamePath);
     chmod(g.SavedGamePath.c_str(), 0444);
-    g.HandsPlayed = 9;
-    g.GameUnsaved = true;
+    g.HandsPlayed = 9, g.GameUnsaved = true;
     g.SaveGame();
     EXPECT_EQ(p.messages.at(0).text, "There was an error saving the game.\nCannot replace " +
                                          g.SavedGamePath + ": the file is read-only.");
@@ -216,7 +203,8 @@ TEST_F(SafetyTest, EveryFileOverItsLimitIsRefusedAndOneAtItsLimitRead) {
         EXPECT_EQ(box.lblTipText,
                   over ? "Cannot read " + tips + ": the file is larger than 1 MB." : "One tip");
         if (over)
-            ExpectMessage("The settings were not read; the game starts with its usual ones.",
+            ExpectMessage("The settings were not read; the game starts with its usual ones.\nCannot read " +
+                              dir.File("settings.dft") + ": the file is larger than 4 KB.",
                           "Texas Hold'em");
         EXPECT_TRUE(p.messages.empty());
     }

@@ -18,24 +18,45 @@ const char* const kMedium = "450 1200 450 1200 450 1200 450 1200 1200 M";
 const char* const kSlow = "550 1600 550 1600 550 1600 550 1600 1600 S";
 const char* const kAsDrawn = "400 1200 450 1200 450 1200 450 1200 1500 M";
 std::string Flag(bool on) { return on ? "#TRUE#" : "#FALSE#"; }
+// clang-format off
+const std::tuple<const char*, int, bool, bool, const char*> kSettingsFiles[] = {
+    // file (nullptr: none), speed, sound, tips, timers and mark
+    {"1,#TRUE#,#FALSE#\r\n", 1, true, false, kFast}, {"3,#FALSE#,#TRUE#\n", 3, false, true, kSlow},
+    {" 2 , #false# , #true#", 2, false, true, kMedium}, {"\xEF\xBB\xBF" "3,#TRUE#,#FALSE#\r\n", 3, true, false, kSlow},
+    // A speed outside 1 to 3 changes no timer and no mark, and is written back as it was.
+    {"0,#FALSE#,#FALSE#\r\n", 0, false, false, kAsDrawn}, {"4,#TRUE#,#TRUE#\r\n", 4, true, true, kAsDrawn},
+    // A file that cannot be read gives what the menus show before any file.
+    {nullptr, 2, true, true, kMedium}, {"3,#FALSE#", 2, true, true, kMedium},
+    {"fast,#FALSE#,#FALSE#\r\n", 2, true, true, kMedium}, {"1,-1,0\r\n", 2, true, true, kMedium},
+};
+// Clicked one after the other: the timers and marks, the speed, sound, tips after each.
+const std::tuple<void (Game::*)(), const char*, int, bool, bool> kMenuSteps[] = {
+    {&Game::mnuFastSpeed_Click, kFast, 1, true, true}, {&Game::mnuSound_Click, kFast, 1, false, true},
+    {&Game::mnuSlowSpeed_Click, kSlow, 3, false, true}, {&Game::mnuTips_Click, kSlow, 3, false, false},
+    {&Game::mnuSound_Click, kSlow, 3, true, false}, {&Game::mnuMediumSpeed_Click, kMedium, 2, true, false},
+    {&Game::mnuTips_Click, kMedium, 2, true, true}};
+const std::string kGood = "holdem statistics 1\ngames 2\nhands 10\nwon 3\n";
+const std::string kBadStatistics[] = {"", "holdem statistics 2\ngames 2\n", "games 2\n", kGood + "won three\n", kGood + "won 3 3\n",
+    kGood + "hands -5\n", kGood + "hands 99999999999\n", kGood + "best-80 81\n", kGood + "show-tourney 2\n",
+    kGood + "colour blue\n", "holdem statistics 1\nhands 1\nwon 5\n", kGood + std::string(20000, '\n'),
+    std::string("holdem statistics 1\0games 2\n", 28)};
+using K = LogKind;
+const std::tuple<LogKind, int32_t, bool, int32_t, int16_t> kLogLines[] = {  // kind, number, flag, total, street
+    {K::GameStart, 80, false, 0, 0}, {K::HoleCards, 0, true, 0, 1}, {K::GameStart, 80, true, 0, 0},
+    {K::HoleCards, 0, true, 0, 1}, {K::Call, 0, false, 0, 1}, {K::Raise, 0, true, 0, 1}, {K::Bet, 0, true, 0, 1},
+    {K::HandResult, 2, true, 900, 4}, {K::HoleCards, 0, true, 0, 1}, {K::Call, 0, true, 0, 2},
+    {K::HandResult, 1, true, 400, 2}, {K::HandResult, 1, true, 5000, 1}, {K::HoleCards, 0, true, 0, 1},
+    {K::HandResult, 1, false, 0, 1}, {K::UserOut, 7, true, 0, 0}, {K::Winner, 0, false, 0, 0},
+    {K::GameStart, 8, true, 0, 0}, {K::UserOut, 3, true, 0, 0}, {K::GameStart, 100, true, 0, 0},
+    {K::UserOut, 2, true, 0, 0}, {K::GameStart, 1000, true, 0, 0}, {K::UserOut, 9, true, 0, 0},
+    {K::UserOut, 12, true, 0, 0}, {K::Winner, 0, true, 0, 0}, {K::Fold, 0, true, 0, 1}};
+// clang-format on
 
 using SettingsTest = FileTest;
 
 // What was read is written back whole, as speed, sound, tips.
 TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
-    // clang-format off
-    const std::tuple<const char*, int, bool, bool, const char*> cases[] = {
-        // file (nullptr: none), speed, sound, tips, timers and mark
-        {"1,#TRUE#,#FALSE#\r\n", 1, true, false, kFast}, {"3,#FALSE#,#TRUE#\n", 3, false, true, kSlow},
-        {" 2 , #false# , #true#", 2, false, true, kMedium}, {"\xEF\xBB\xBF" "3,#TRUE#,#FALSE#\r\n", 3, true, false, kSlow},
-        // A speed outside 1 to 3 changes no timer and no mark, and is written back as it was.
-        {"0,#FALSE#,#FALSE#\r\n", 0, false, false, kAsDrawn}, {"4,#TRUE#,#TRUE#\r\n", 4, true, true, kAsDrawn},
-        // A file that cannot be read gives what the menus show before any file.
-        {nullptr, 2, true, true, kMedium}, {"3,#FALSE#", 2, true, true, kMedium},
-        {"fast,#FALSE#,#FALSE#\r\n", 2, true, true, kMedium}, {"1,-1,0\r\n", 2, true, true, kMedium},
-    };
-    // clang-format on
-    for (const auto& [text, speed, sound, tips, timers] : cases) {
+    for (const auto& [text, speed, sound, tips, timers] : kSettingsFiles) {
         SCOPED_TRACE(text ? text : "(no file)");
         ScriptedPlatform p2;
         Game g2(p2);
@@ -56,14 +77,7 @@ TEST_F(SettingsTest, ReadsTheFileOrStartsWithTheDefaultsAndWritesItBack) {
 TEST_F(SettingsTest, MenuEntriesSetTheTimersTheMarksAndTheFlags) {
     g.ReadSettings();
     g.EnableTimer(TimerBetFlop);
-    // clang-format off
-    const std::tuple<void (Game::*)(), const char*, int, bool, bool> steps[] = {
-        {&Game::mnuFastSpeed_Click, kFast, 1, true, true}, {&Game::mnuSound_Click, kFast, 1, false, true},
-        {&Game::mnuSlowSpeed_Click, kSlow, 3, false, true}, {&Game::mnuTips_Click, kSlow, 3, false, false},
-        {&Game::mnuSound_Click, kSlow, 3, true, false}, {&Game::mnuMediumSpeed_Click, kMedium, 2, true, false},
-        {&Game::mnuTips_Click, kMedium, 2, true, true}};
-    // clang-format on
-    for (const auto& [click, timers, speed, sound, tips] : steps) {
+    for (const auto& [click, timers, speed, sound, tips] : kMenuSteps) {
         (g.*click)();
         EXPECT_EQ(std::make_tuple(Speed(g), int{g.GameSpeed}, g.RunningTimer(), g.SoundOn,
                                   g.view.mnuSound.checked, g.TipsAtStartup, g.view.mnuTips.checked),
@@ -159,19 +173,12 @@ TEST(StatisticsFile, SurvivesARestartOrGivesTheDefaults) {
     EXPECT_EQ(std::make_tuple(s.handsPlayed, s.showHandLog, s.showTourney),
               std::make_tuple(0, true, false));  // keeps the panels
 
-    const std::string good = "holdem statistics 1\ngames 2\nhands 10\nwon 3\n";
-    // clang-format off
-    const std::string cases[] = {"", "holdem statistics 2\ngames 2\n", "games 2\n", good + "won three\n", good + "won 3 3\n",
-        good + "hands -5\n", good + "hands 99999999999\n", good + "best-80 81\n", good + "show-tourney 2\n",
-        good + "colour blue\n", "holdem statistics 1\nhands 1\nwon 5\n", good + std::string(20000, '\n'),
-        std::string("holdem statistics 1\0games 2\n", 28)};
-    // clang-format on
-    for (const std::string& text : cases) {
+    for (const std::string& text : kBadStatistics) {
         SCOPED_TRACE(text.substr(0, 60));
         WriteAll(path, text);
         EXPECT_EQ(ReadStatistics(path), Statistics{});
     }
-    WriteAll(path, good + "\r\n");
+    WriteAll(path, kGood + "\r\n");
     EXPECT_EQ(ReadStatistics(path).handsWon, 3) << "a good file with Windows line ends";
     s.gamesPlayed = 9;
     EXPECT_FALSE(WriteStatistics(path + "/below-a-file.txt", s));
@@ -180,22 +187,10 @@ TEST(StatisticsFile, SurvivesARestartOrGivesTheDefaults) {
 
 // The record follows the log: games, tournaments, hands, chips in by choice, pots, showdowns, best finishes.
 TEST(StatisticsFile, TheWatcherKeepsTheRecordFromTheLog) {
-    using K = LogKind;
-    // clang-format off
-    const std::tuple<LogKind, int32_t, bool, int32_t, int16_t> lines[] = {  // kind, number, flag, total, street
-        {K::GameStart, 80, false, 0, 0}, {K::HoleCards, 0, true, 0, 1}, {K::GameStart, 80, true, 0, 0},
-        {K::HoleCards, 0, true, 0, 1}, {K::Call, 0, false, 0, 1}, {K::Raise, 0, true, 0, 1}, {K::Bet, 0, true, 0, 1},
-        {K::HandResult, 2, true, 900, 4}, {K::HoleCards, 0, true, 0, 1}, {K::Call, 0, true, 0, 2},
-        {K::HandResult, 1, true, 400, 2}, {K::HandResult, 1, true, 5000, 1}, {K::HoleCards, 0, true, 0, 1},
-        {K::HandResult, 1, false, 0, 1}, {K::UserOut, 7, true, 0, 0}, {K::Winner, 0, false, 0, 0},
-        {K::GameStart, 8, true, 0, 0}, {K::UserOut, 3, true, 0, 0}, {K::GameStart, 100, true, 0, 0},
-        {K::UserOut, 2, true, 0, 0}, {K::GameStart, 1000, true, 0, 0}, {K::UserOut, 9, true, 0, 0},
-        {K::UserOut, 12, true, 0, 0}, {K::Winner, 0, true, 0, 0}, {K::Fold, 0, true, 0, 1}};
-    // clang-format on
     Statistics s, want;
     StatisticsWatcher watcher;
     std::string saves;
-    for (const auto& [kind, number, flag, total, street] : lines) {
+    for (const auto& [kind, number, flag, total, street] : kLogLines) {
         LogLine l;
         std::tie(l.kind, l.number, l.flag, l.total, l.street) = std::tie(kind, number, flag, total, street);
         saves += watcher.Observe(s, l) ? '1' : '0';

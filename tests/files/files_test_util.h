@@ -82,16 +82,15 @@ protected:
         g.rnd.Script(std::move(draws));
         g.mnuOpen_Click();
     }
-    // Exactly one message box, its first line (a reason may follow), then the record is cleared.
-    void ExpectMessage(const std::string& text, const std::string& title, MsgIcon icon = MsgIcon::Exclamation,
-                       MsgButtons buttons = MsgButtons::OK) {
+    // Exactly one message box, its whole text; then the record is cleared.
+    void ExpectMessage(const std::string& text, const std::string& title,
+                       MsgIcon icon = MsgIcon::Exclamation) {
         ASSERT_EQ(p.messages.size(), 1u);
         const MessageCall& m = p.messages[0];
-        const std::string first = m.text.substr(0, m.text.find('\n'));
-        EXPECT_EQ(std::tie(first, m.title, m.icon, m.buttons), std::tie(text, title, icon, buttons));
+        EXPECT_EQ(std::tie(m.text, m.title, m.icon, m.buttons),
+                  std::make_tuple(text, title, icon, MsgButtons::OK));
         p.messages.clear();
     }
-    void ExpectDrawsUsed(const Game& game) { EXPECT_EQ(game.rnd.Remaining() + game.rnd.Overdrawn(), 0u); }
 };
 
 }  // namespace holdem::test

@@ -1,17 +1,13 @@
 #include "tests/support/builders.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <stdexcept>
 
 namespace holdem::test {
 
 std::vector<int16_t> CardsOf(const std::string& names) {
     static const std::string kRanks = "23456789TJQKA", kSuits = "hsdc";
-    std::string packed;
-    for (char c : names)
-        if (c != ' ') packed += c;
+    std::string packed = names;
+    std::erase(packed, ' ');
     std::vector<int16_t> cards;
     for (std::size_t i = 0; i + 1 < packed.size(); i += 2) {
         auto rank = kRanks.find(packed[i]), suit = kSuits.find(packed[i + 1]);
@@ -56,13 +52,11 @@ void EmptyTable(Game& g, int16_t size) {
 void RankRiver(Game& g) { g.CardsKnown = 7, g.RankHands(); }
 
 void SeatTable(Game& g, const std::vector<int32_t>& banks, int button, int32_t smallBlind) {
-    int s = 0, players = 0;
-    for (int32_t bank : banks) {
-        ++s;
-        g.RosterNumber[s] = static_cast<int16_t>(s);
+    int players = 0;
+    for (int s = 1; s <= static_cast<int>(banks.size()); ++s) {
+        g.RosterNumber[s] = static_cast<int16_t>(s), g.RosterBank[s] = banks[s - 1];
         g.RosterName[s] = g.SeatName[s] = s == 1 ? "You" : "Player " + std::to_string(s);
-        g.RosterBank[s] = bank;
-        players += bank > 0;
+        players += banks[s - 1] > 0;
     }
     std::tie(g.ButtonSeat, g.SmallBlind, g.TournamentSize, g.PlayersLeft, g.TablesInPlay,
              g.view.mnuSound.checked) =
@@ -154,12 +148,10 @@ void RunTimers(Game& g) {
 }
 
 HandCategory CategoryOfCode(int code) {
-    static const int kLast[] = {10, 23, 36, 37, 47, 60, 138, 151};
-    static const HandCategory kCategory[] = {StraightFlush, Quads, FullHouse, Flush,
-                                             Straight,      Trips, TwoPair,   Pair};
-    for (int i = 0; i < 8; ++i)
-        if (code <= kLast[i]) return kCategory[i];
-    return HighCard;
+    static const int kLast[] = {10, 23, 36, 37, 47, 60, 138, 151};  // of each class, straight flushes first
+    int i = 0;
+    while (i < 8 && code > kLast[i]) ++i;
+    return static_cast<HandCategory>(StraightFlush - i);
 }
 
 }  // namespace holdem::test

@@ -1,5 +1,4 @@
-// Builders for engine tests: cards by name, a seat or a table, the draws that deal chosen cards, the closing
-// checks. With GoogleTest and the scripted platform, all an engine test includes.
+// Builders for engine tests: cards by name, seats, tables, the draws that deal chosen cards, closing checks.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -25,8 +24,7 @@ std::vector<int16_t> CardsOf(const std::string& names);
 void SetBoard(Game& g, const std::string& cards);
 void SetHole(Game& g, int seat, const std::string& cards);
 
-// A seat in the hand (or out) with what it has left and has put in; RosterBank becomes the stack it began
-// with, PlayersInHand and Pot kept in step.
+// A seat in the hand (or out) with what it has left and has put in; RosterBank, PlayersInHand, Pot in step.
 void SeatPlayer(Game& g, int seat, float bankLeft, int32_t totalBet, int32_t bet = 0, bool inHand = true);
 
 // A field of `size`, nobody at the shown table, sound on, the hand-over timer running.
@@ -44,15 +42,12 @@ std::vector<float> Draws(std::initializer_list<std::vector<float>> parts);
 
 // A game's figures, roster, seats, shown elements, timers and log as text, to compare two runs or moments.
 std::string StateText(const Game& g);
-// Every scripted draw taken and none beyond; the state's invariants hold.
-void ExpectSettled(const Game& g);
-// Fires the running timer until none runs: the rest of the hand as the window would play it.
-void RunTimers(Game& g);
+void ExpectSettled(const Game& g);  // every scripted draw taken, none beyond; state_is_ok
+void RunTimers(Game& g);            // fires the running timer until none runs
 
 // The nine classes of poker hands, weakest first, and the class of a code.
-// clang-format off
-enum HandCategory { HighCard, Pair, TwoPair, Trips, Straight, Flush, FullHouse, Quads, StraightFlush, kCategories };
-// clang-format on
+enum HandCategory { HighCard, Pair, TwoPair, Trips, Straight, Flush, FullHouse, Quads, StraightFlush };
+constexpr int kCategories = StraightFlush + 1;
 HandCategory CategoryOfCode(int code);
 
 }  // namespace holdem::test

@@ -63,9 +63,8 @@ public:
 private:
     template <typename T>
     static T Take(std::deque<T>& queue, T fallback) {
-        if (queue.empty()) return fallback;
-        T value = queue.front();
-        return queue.pop_front(), value;
+        if (!queue.empty()) fallback = queue.front(), queue.pop_front();
+        return fallback;
     }
 };
 

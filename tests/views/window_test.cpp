@@ -21,8 +21,34 @@
 using namespace holdem;
 
 namespace {
-// Seat 1 against seat 2: on the all-zero shuffle seat 2 has the button and a King-high straight flush in
-// diamonds over seat 1's Queen-high one; seat 2 checks, checks and calls.
+// clang-format off
+const std::tuple<Qt::Key, bool, QString> kKeys[] = {  // key, on the flop, lblBet(1) after the press
+    {Qt::Key_C, false, "Called $100"}, {Qt::Key_F, false, "Folded"}, {Qt::Key_B, false, "Amount to Call: $100"},
+    {Qt::Key_H, true, "Checked"}, {Qt::Key_Space, true, "Folded"}};  // Space on Fold, moved there
+const int no = int(MsgAnswer::No), yes = int(MsgAnswer::Yes), cancel = int(MsgAnswer::Cancel);
+const int kExits[][8] = {  // close box, user's bank, hands, unsaved, ended, players left, answer, asks
+    {0, 5000, 2, 1, 0, 8, no, 1}, {1, 5000, 2, 1, 0, 8, no, 1}, {1, 5000, 1, 1, 0, 8, no, 0}, {0, 5000, 5, 0, 0, 8, no, 0},
+    {1, 0, 5, 1, 1, 8, no, 0}, {0, 5000, 5, 1, 1, 8, no, 0}, {1, 5000, 5, 1, 1, 8, no, 1}, {0, 80000, 5, 1, 0, 1, no, 1},
+    {1, 80000, 5, 1, 0, 1, no, 0}, {0, 5000, 2, 1, 0, 8, cancel, 1}, {1, 5000, 2, 1, 0, 8, cancel, 1}, {0, 5000, 2, 1, 0, 8, yes, 1}};
+enum { OK, Enter, Escape };  // the bet dialog's ways out
+const std::tuple<const char*, const char*, int, const char*, const char*, int> kBetKeys[] = {
+    // pasted, typed, way out, left, message, amount
+    {"", "1a2-b.0 0x,", Enter, "1200", "", 2400}, {"", "", Enter, "", "No bet entered", -1}, {"", "0", OK, "", "No bet entered", -1},
+    {"", "150", OK, "150", "You must bet in multiples of $100.", -1}, {"", "8800", OK, "", "You've only got $9,900.", -1},
+    {"1200", "", Escape, "1200", "", 0}, {"87", "00", Enter, "8700", "", 9900}};
+const std::tuple<const char*, QSize, qreal, bool> kScenes[] = {  // name, client area, scale, showdown
+    {"as_laid_out_dealing", {755, 508}, 1.0, false}, {"as_laid_out_showdown", {755, 508}, 1.0, true},
+    {"wide_showdown", {1400, 800}, 800 / 508.0, true}, {"twice_dealing", {1510, 1016}, 2.0, false},
+    {"smaller_than_laid_out", {600, 400}, 1.0, true}};
+const QList<QPair<QString, QSize>> kPictures = {{"table", {757, 527}}, {"table_winner", {758, 517}}, {"arrow_right", {34, 16}},
+    {"arrow_left", {34, 16}}, {"dealer", {34, 34}}, {"card_back", {73, 97}}, {"logo", {109, 108}}, {"icon", {48, 48}},
+    {"tip", {32, 32}}, {"help1", {401, 478}}, {"help2", {397, 425}}, {"rules1", {406, 365}}, {"rules2", {402, 407}}};
+const std::tuple<const char*, int, double> kSounds[] = {  // name, rate, seconds
+    {"BUTTONCLICK", 22050, 0.049}, {"DEAL", 44100, 0.178}, {"WONHAND", 44100, 0.513}, {"LOSTHAND", 44100, 0.198},
+    {"MOVED", 44100, 1.683}, {"TWOMOVED", 44100, 2.981}, {"THREEMOVED", 44100, 2.542}, {"FOURMOVED", 44100, 2.586},
+    {"FIVEMOVED", 44100, 2.728}, {"SIXMOVED", 44100, 2.299}, {"GAMEOVER", 44100, 3.483}, {"WIN", 44100, 4.621}};
+// clang-format on
+// Seat 2 has the button and a straight flush over seat 1's on the all-zero shuffle; it checks, checks, calls.
 void SetUpHeadsUp(frmMain& w) {
     Game& g = w.game;
     for (int s = 1; s <= kSeats; ++s)
@@ -45,22 +71,21 @@ TimerId RunningTimer(const frmMain& w) {
     return static_cast<TimerId>(count == 1 ? found : kTimerCount);
 }
 bool Shows(QWidget* w) { return w->isVisibleTo(w->window()); }
-// Shown and saved beside the test program, to be looked at; no visible label cuts its text.
+void Activate(QWidget& w) {
+    w.show(), w.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&w));
+}
+// Shown, active, and saved beside the test program, to be looked at; no visible label cuts its text.
 void Shot(QWidget& form, const QString& name) {
-    form.show();
+    Activate(form);
     QVERIFY(form.grab().save(QCoreApplication::applicationDirPath() + "/" + name + ".png"));
     for (QLabel* l : form.findChildren<QLabel*>())
         QVERIFY2(!l->isVisible() || l->fontMetrics().horizontalAdvance(l->text()) <= l->width(),
                  qPrintable(name + ": " + l->text()));
 }
-// n players numbered by line: the user "You" first and out last, "P5" far ahead, the rest on 10,000.
-std::string WriteStnd(const QString& path, int n) {
-    std::ofstream out(path.toStdString(), std::ios::binary);
-    out << n << ",12,3,200\r\n";
-    for (int p = 1; p <= n; ++p)
-        out << p % 7 << ",\"" << (p == 1 ? "You" : "P" + std::to_string(p)) << "\","
-            << (p == 5 ? 1234567 : 10000 * (p > 1)) << "," << (p == 1 ? n : 0) << "," << p << "\r\n";
-    return path.toStdString();
+QByteArray Read(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 // Opens the real forms; while each one's event loop runs, the due hand timer fires, then Escape.
 class FormsPlatform : public test::ScriptedPlatform {
@@ -85,10 +110,6 @@ public:
 std::string Here() { return QCoreApplication::applicationDirPath().toStdString() + "/"; }
 bool FocusOnAButton() { return qobject_cast<QPushButton*>(QApplication::focusWidget()); }
 QString MenuTitles(frmMain& w) { return w.mnuSettings->title() + w.mnuFile->title() + w.mnuHelp->title(); }
-void Activate(QWidget& w) {
-    w.show(), w.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&w));
-}
 void Tick(frmMain& w, TimerId id, int times = 1) {
     for (int k = 0; k < times; ++k)
         QVERIFY2(RunningTimer(w) == id && (w.TimerTick(id), true), qPrintable(QString::number(id)));
@@ -171,12 +192,7 @@ private slots:
         Shot(w, "window_showdown");
     }
     void accessKeysBetweenHandsAndDuringTheTurn() {
-        // clang-format off
-        const std::tuple<Qt::Key, bool, QString> cases[] = {  // key, on the flop, lblBet(1) after the press
-            {Qt::Key_C, false, "Called $100"}, {Qt::Key_F, false, "Folded"}, {Qt::Key_B, false, "Amount to Call: $100"},
-            {Qt::Key_H, true, "Checked"}, {Qt::Key_Space, true, "Folded"}};  // Space on Fold, moved there
-        // clang-format on
-        for (const auto& [key, onTheFlop, words] : cases) {
+        for (const auto& [key, onTheFlop, words] : kKeys) {
             test::ScriptedPlatform platform;
             frmMain w(Here(), &platform);
             SetUpHeadsUp(w);
@@ -239,15 +255,7 @@ private slots:
     }
     // Which exits ask, by the way out and the state of the game, and what each answer does.
     void theExitQuestion() {
-        const int no = int(MsgAnswer::No), yes = int(MsgAnswer::Yes), cancel = int(MsgAnswer::Cancel);
-        const int cases[][8] = {// close box, user's bank, hands, unsaved, ended, players left, answer, asks
-                                {0, 5000, 2, 1, 0, 8, no, 1},     {1, 5000, 2, 1, 0, 8, no, 1},
-                                {1, 5000, 1, 1, 0, 8, no, 0},     {0, 5000, 5, 0, 0, 8, no, 0},
-                                {1, 0, 5, 1, 1, 8, no, 0},        {0, 5000, 5, 1, 1, 8, no, 0},
-                                {1, 5000, 5, 1, 1, 8, no, 1},     {0, 80000, 5, 1, 0, 1, no, 1},
-                                {1, 80000, 5, 1, 0, 1, no, 0},    {0, 5000, 2, 1, 0, 8, cancel, 1},
-                                {1, 5000, 2, 1, 0, 8, cancel, 1}, {0, 5000, 2, 1, 0, 8, yes, 1}};
-        for (const auto& [closeBox, userBank, hands, unsaved, ended, left, answer, asks] : cases) {
+        for (const auto& [closeBox, userBank, hands, unsaved, ended, left, answer, asks] : kExits) {
             for (const char* file : {"settings.dft", "mine.sgf"}) QFile::remove(dir_.filePath(file));
             test::ScriptedPlatform platform;
             frmMain w(dir_.path().toStdString() + "/", &platform);
@@ -269,31 +277,17 @@ private slots:
             for (const test::MessageCall& m : platform.messages)
                 QVERIFY(m.text == "Do you want to save the current game?" && m.title == "Exit" &&
                         m.icon == MsgIcon::Information && m.buttons == MsgButtons::YesNoCancel);
-            QFile saved(dir_.filePath("mine.sgf")), settings(dir_.filePath("settings.dft"));
-            const bool savedGame = saved.open(QIODevice::ReadOnly) &&
-                                   saved.readAll().startsWith("8," + QByteArray::number(hands) + ",3,");
-            const bool savedSettings =
-                settings.open(QIODevice::ReadOnly) && settings.readAll() == "3,#TRUE#,#TRUE#\r\n";
             QCOMPARE(
-                std::make_tuple(platform.messages.size(), quits, w.isVisible(), g.GameUnsaved, savedGame,
-                                savedSettings),
+                std::make_tuple(
+                    platform.messages.size(), quits, w.isVisible(), g.GameUnsaved,
+                    Read(dir_.filePath("mine.sgf")).startsWith("8," + QByteArray::number(hands) + ",3,"),
+                    Read(dir_.filePath("settings.dft")) == "3,#TRUE#,#TRUE#\r\n"),
                 std::make_tuple(std::size_t(asks), int(leaves), !leaves, unsaved && !saves, saves, leaves));
         }
     }
-    // Only digits get in, typed or pasted; Ctrl+A takes all. OK or Enter refuses, or closes with the
-    // amount and the $1,200 to call; Escape closes with none.
-    void theBetDialogByKeys() {
-        enum { OK, Enter, Escape };
-        const std::tuple<const char*, const char*, int, const char*, const char*, int> cases[] = {
-            // pasted, typed, way out, left, message, amount
-            {"", "1a2-b.0 0x,", Enter, "1200", "", 2400},
-            {"", "", Enter, "", "No bet entered", -1},
-            {"", "0", OK, "", "No bet entered", -1},
-            {"", "150", OK, "150", "You must bet in multiples of $100.", -1},
-            {"", "8800", OK, "", "You've only got $9,900.", -1},
-            {"1200", "", Escape, "1200", "", 0},
-            {"87", "00", Enter, "8700", "", 9900}};
-        for (const auto& [pasted, typed, out, left, message, amount] : cases) {
+    // The bet dialog takes digits only; OK or Enter refuses, or closes with the amount and $1,200 to call.
+    void theForms() {
+        for (const auto& [pasted, typed, out, left, message, amount] : kBetKeys) {
             test::ScriptedPlatform platform;
             frmBetAmount form(BetAmountRequest{2, 1400, 1200, 9900}, platform);
             Shot(form, "form_bet_amount");
@@ -309,12 +303,9 @@ private slots:
                                      form.isVisible(), form.BetAmount),
                      std::make_tuple(QString(left), std::string(message), amount < 0, std::max(amount, 0)));
         }
-    }
-    // New game takes the focus on its first box and closes by a click on OK or by Enter.
-    void theOtherDialogs() {
+        // New game: the focus on its first box, closed by OK or Enter; the other forms; standings by keys.
         for (bool byEnter : {false, true}) {
             frmNewGame newGame(3);
-            Activate(newGame);
             Shot(newGame, "form_new_game");
             QVERIFY(newGame.focusWidget() == newGame.cbGameType && newGame.cbSpeed->currentText() == "Slow" &&
                     !newGame.cbPlayers->isEnabled());
@@ -338,12 +329,15 @@ private slots:
         QVERIFY(splash.isVisible() && splash.lblVersion->text() == "Version 1.1");
         QTest::keyClick(&splash, Qt::Key_Space);
         QVERIFY(!splash.isVisible() && !splash.timerSplash->isActive());
-    }
-    // A field of 1,000, the user out first: standings paged by clicks and keys; floor, tip and help forms.
-    void theFieldViews() {
-        const std::string stnd = WriteStnd(dir_.filePath("stnd.dat"), 1000);
+        // A field of 1,000 by line: the user "You" first and out last, "P5" far ahead, the rest on 10,000.
+        const std::string stnd = dir_.filePath("stnd.dat").toStdString();
+        std::ofstream out(stnd, std::ios::binary);
+        out << "1000,12,3,200\r\n";
+        for (int p = 1; p <= 1000; ++p)
+            out << p % 7 << ",\"" << (p == 1 ? "You" : "P" + std::to_string(p)) << "\","
+                << (p == 5 ? 1234567 : 10000 * (p > 1)) << "," << (p == 1 ? 1000 : 0) << "," << p << "\r\n";
+        out.close();
         frmRankings standings(stnd);
-        Activate(standings);
         Shot(standings, "form_standings");
         QCOMPARE(standings.lblName[1]->text() + standings.lblBank[1]->text() + "|" +
                      standings.lblRank[26]->text() + standings.lblBank[26]->text(),
@@ -386,13 +380,7 @@ private slots:
         QVERIFY(help.Page() == 2 && help.cmdPrevious->isEnabled() && !help.cmdNext->isEnabled());
     }
     void theSceneScalesAndNoTextCoversAnother() {
-        // clang-format off
-        const std::tuple<const char*, QSize, qreal, bool> cases[] = {  // name, client area, scale, showdown
-            {"as_laid_out_dealing", {755, 508}, 1.0, false}, {"as_laid_out_showdown", {755, 508}, 1.0, true},
-            {"wide_showdown", {1400, 800}, 800 / 508.0, true}, {"twice_dealing", {1510, 1016}, 2.0, false},
-            {"smaller_than_laid_out", {600, 400}, 1.0, true}};
-        // clang-format on
-        for (const auto& [name, client, scale, showdown] : cases) {
+        for (const auto& [name, client, scale, showdown] : kScenes) {
             test::ScriptedPlatform platform;
             frmMain w(Here(), &platform);
             w.show();
@@ -421,12 +409,7 @@ private slots:
     }
     // Pictures drawn at twice the listed size; hearts 1-13 and diamonds 27-39 red; each arrow points its way.
     void picturesAndSounds() {
-        QList<QPair<QString, QSize>> pictures = {
-            {"table", {757, 527}},    {"table_winner", {758, 517}}, {"arrow_right", {34, 16}},
-            {"arrow_left", {34, 16}}, {"dealer", {34, 34}},         {"card_back", {73, 97}},
-            {"logo", {109, 108}},     {"icon", {48, 48}},           {"tip", {32, 32}},
-            {"help1", {401, 478}},    {"help2", {397, 425}},        {"rules1", {406, 365}},
-            {"rules2", {402, 407}}};
+        QList<QPair<QString, QSize>> pictures = kPictures;
         for (int card = 1; card <= 52; ++card)
             pictures.append({QString("card_%1").arg(card, 2, 10, QChar('0')), {69, 94}});
         for (const auto& [name, size] : pictures) {
@@ -447,15 +430,9 @@ private slots:
             if (name.startsWith("arrow")) QVERIFY2(rightHeavy == name.endsWith("right"), qPrintable(name));
         }
         // Sounds: plain 16-bit mono PCM at its rate, of about its length, and not next to silent.
-        const std::tuple<const char*, int, double> sounds[] = {
-            {"BUTTONCLICK", 22050, 0.049}, {"DEAL", 44100, 0.178},      {"WONHAND", 44100, 0.513},
-            {"LOSTHAND", 44100, 0.198},    {"MOVED", 44100, 1.683},     {"TWOMOVED", 44100, 2.981},
-            {"THREEMOVED", 44100, 2.542},  {"FOURMOVED", 44100, 2.586}, {"FIVEMOVED", 44100, 2.728},
-            {"SIXMOVED", 44100, 2.299},    {"GAMEOVER", 44100, 3.483},  {"WIN", 44100, 4.621}};
-        for (const auto& [name, rate, length] : sounds) {
-            QFile file(QString::fromStdString(Here()) + "sounds/" + name + ".wav");
-            QVERIFY2(file.open(QIODevice::ReadOnly), name);
-            const QByteArray bytes = file.readAll(), fmt = bytes.mid(bytes.indexOf("fmt ") + 8, 16);
+        for (const auto& [name, rate, length] : kSounds) {
+            const QByteArray bytes = Read(QString::fromStdString(Here()) + "sounds/" + name + ".wav"),
+                             fmt = bytes.mid(bytes.indexOf("fmt ") + 8, 16);
             const QByteArray samples = bytes.mid(bytes.indexOf("data") + 8);
             const auto u16 = [&](int at) { return qFromLittleEndian<quint16>(fmt.constData() + at); };
             QCOMPARE(
