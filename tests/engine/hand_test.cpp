@@ -149,6 +149,9 @@ TEST(HandLog, TellsASidePotHandFromBlindsToPayments) {
         "You shows K\u2665 K\u2660: Kings / Player 3 shows Q\u2665 Q\u2660: Queens / Player 5 shows A\u2666 3\u2663: high card / "
         "You is paid $3,000, stack $3,000 / Player 3 is paid $2,000, stack $5,000 / Pot $5,000, you won $3,000");
     // clang-format on
+    std::string flags;  // the large blind, the user's raise, the user's payment, the user's win
+    for (const LogLine& line : g.view.log) flags += line.flag ? '1' : '0';
+    EXPECT_EQ(flags, "0001100000000000000101");
 
     // The same events make the user's record.
     Statistics stats;

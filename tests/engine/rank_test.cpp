@@ -286,6 +286,9 @@ TEST(RankFast, EverySixCardPatternAndAMillionHandsAsTheReference) {
     t.Hole(2, 0, deck[0]);
     for (Game& x : t.g) x.SeatInHand[5] = false;
     for (int known : {3, 7, 8}) t.Check(known);
+    t.Board(0, 4), t.Board(1, 17), t.Board(2, 30),
+        t.Hole(3, 4, 43);  // a hole card repeats a Five of the board
+    for (int known : {5, 6, 7}) t.Check(known);
 }
 
 }  // namespace

@@ -170,6 +170,8 @@ TEST(TourneyFigures, FromTheRosterAndTheNextRise) {
     EXPECT_EQ(std::vector<int64_t>({f.fieldSize, f.playersLeft, f.tablesInPlay, f.smallBlind, f.nextRiseAt,
                                     f.nextSmallBlind, f.userPlace, f.averageStack}),
               std::vector<int64_t>({80, 40, 5, 400, 40, 600, 16, 21113}));
+    g.RosterBank[2] -= 1;  // $844,499: one chip more would round the average up
+    EXPECT_EQ(ComputeTourneyFigures(g).averageStack, 21112);
     g.RosterBank[1] = 0;
     EXPECT_EQ(ComputeTourneyFigures(g).userPlace, 0);
     for (auto [size, smallBlind, riseAt, next] : kRises) {
