@@ -71,6 +71,7 @@ bool CheckPlayOut(Game& g, int players) {
     EXPECT_EQ(CanPlayOutField(g), stopped) << "a stopped field plays on later";
     if (stopped) report = PlayOutField(g);
     EXPECT_TRUE(report.finished);
+    EXPECT_LT(report.rounds, 10000) << "rounds stop with the winner";
     EXPECT_FALSE(CanPlayOutField(g));
 
     std::vector<Standing> standings = FinalStandings(g);
