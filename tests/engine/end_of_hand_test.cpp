@@ -215,7 +215,8 @@ std::string Settle(const std::string& stakes, bool sound = true) {
         g.SeatHandCode[seat] = 61;  // ranked on the river, then folded
     }
     test::RankRiver(g);
-    for (int s = 1; s <= kSeats; ++s) g.view.lblBet[s].text = "Checked";  // the betting's words go when it closes
+    for (int s = 1; s <= kSeats; ++s)
+        g.view.lblBet[s].text = "Checked";  // the betting's words go when it closes
     g.TimerHandOver_Timer();
 
     std::string out, arrows;
